@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// Everything that the program asks of the operating system, behind one door. A port implements the
+// interfaces of this folder and `makePlatform`; the build links exactly one implementation.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/Application.h"
+#include "platform/Formatting.h"
+#include "platform/GPURegistry.h"
+#include "platform/HostCounters.h"
+#include "platform/LoginItem.h"
+#include "platform/PreferenceStore.h"
+#include "platform/ProcessTable.h"
+
+namespace zephrine {
+
+/// Hands out the services, each made at its first use: asking for counters or for the login status
+/// opens no connection to a display or a bus. What it hands out lives as long as it does.
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    virtual HostCounters& hostCounters() = 0;
+    virtual GPURegistry& gpuRegistry() = 0;
+    virtual ProcessTable& processTable() = 0;
+    virtual PreferenceStore& preferenceStore() = 0;
+    virtual LoginItem& loginItem() = 0;
+    virtual Formatting& formatting() = 0;
+
+    /// Connects to the desktop. Null when there is none, with the reason, one line, in `whyNot`.
+    virtual Application* sharedApplication(std::string& whyNot) = 0;
+};
+
+/// `argc` and `argv` are those of `main` and outlive the platform.
+std::unique_ptr<Platform> makePlatform(int& argc, char** argv);
+
+}  // namespace zephrine
