@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/Preferences.h"
+#include "platform/Trap.h"
+
+namespace zephrine {
+
+namespace {
+
+// What the item is until its first picture tells its true length; points.
+constexpr double initialItemLength = 74;
+// How much of a period the system may delay a refresh by, to wake up for several things at once.
+constexpr double toleranceShare = 0.15;
+
+std::optional<double> percent(const std::optional<MemoryReading>& memory) {
+    return memory ? std::optional(memory->percent()) : std::nullopt;
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate(Platform& platform, Application& application,
+                         std::vector<std::string> arguments)
+    : platform_(platform),
+      application_(application),
+      arguments_(std::move(arguments)),
+      sampler(platform.hostCounters(), platform.gpuRegistry()),
+      defaults(platform.preferenceStore()),
+      dashboard(std::make_shared<Dashboard>(application, platform.formatting())),
+      popover(application.windows().makePopover()) {}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    statusItem = application_.statusBar().statusItemWithLength(initialItemLength);
+    require(statusItem != nullptr);
+    statusItem->setAutosaveName("Zephrine");
+    if (StatusItemButton* button = statusItem->button()) {
+        button->setAction([this] { toggleDashboard(); });
+    }
+
+    dashboard->owner = weak_from_this();
+    dashboard->loadView();
+    popover->setContentView(dashboard->view());
+    popover->setContentSize(dashboard->view().frame().size());
+    popover->setDidCloseHandler([this] { popoverDidClose(); });
+
+    application_.observeDidWake([this] { wokeUp(); });
+    application_.observeThemeChanged([this] { themeChanged(); });
+    resetTimer();
+    refresh();
+
+    if (hasArgument("--show-dashboard")) {
+        showDashboard();
+    }
+    if (hasArgument("--inspect")) {
+        openInspectionWindow();
+    }
+}
+
+void AppDelegate::resetTimer() {
+    timer.reset();
+    timer = application_.runLoop().scheduleTimer(interval(), interval() * toleranceShare,
+                                                 [this] { refresh(); });
+}
+
+void AppDelegate::refresh() {
+    latestCPU = sampler.cpu();
+    latestMemory = sampler.memory();
+    latestGPU = sampler.gpu();
+    latestPressure = sampler.pressure();
+    history.append({.time = platform_.hostCounters().systemUptime(),
+                    .cpu = latestCPU,
+                    .ram = percent(latestMemory),
+                    .gpu = latestGPU});
+    updateStatusItem();
+    if (isDashboardVisible()) {
+        updateDashboard();
+    }
+}
+
+void AppDelegate::wokeUp() {
+    sampler.resetCPU();
+    sampler.discoverGPU();
+    previousProcesses.reset();
+    refresh();
+}
+
+void AppDelegate::themeChanged() {
+    lastImageKey.clear();
+    updateStatusItem();
+}
+
+double AppDelegate::interval() const {
+    return preferences::interval(defaults);
+}
+
+double AppDelegate::fontSize() const {
+    return preferences::fontSize(defaults);
+}
+
+bool AppDelegate::hasArgument(const std::string& option) const {
+    return std::find(arguments_.begin(), arguments_.end(), option) != arguments_.end();
+}
+
+}  // namespace zephrine

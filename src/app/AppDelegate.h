@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// The one application controller. It owns every long-lived object, runs the refresh cycle and
+// answers to the user. Each group of its operations is defined in the folder that it belongs to.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "dashboard/Dashboard.h"
+#include "platform/Platform.h"
+#include "processes/ProcessSnapshot.h"
+#include "sampling/History.h"
+#include "sampling/Sampler.h"
+
+namespace zephrine {
+
+/// A refresh of the process list that is under way.
+struct ProcessTask {
+    bool isCancelled = false;
+};
+
+/// Main thread only, like everything that it calls except the capture of processes. Held by
+/// std::shared_ptr, so that work which comes back late can tell whether it still exists. The state
+/// is public: it is the table by which the subsystems share one set of facts, and what tests read.
+class AppDelegate final : public ApplicationDelegate,
+                          public std::enable_shared_from_this<AppDelegate> {
+public:
+    /// `arguments` are the program's, its own path first. The platform and the application must
+    /// outlive the controller.
+    AppDelegate(Platform& platform, Application& application, std::vector<std::string> arguments);
+
+    // Launch, refresh, wake-up, appearance: AppDelegate.cpp
+    void applicationDidFinishLaunching() override;
+    void resetTimer();
+    void refresh();
+    void wokeUp();
+    void themeChanged();
+    [[nodiscard]] double interval() const;
+    [[nodiscard]] double fontSize() const;
+
+    // The dashboard's two hosts: PanelPresentation.cpp
+    void toggleDashboard();
+    void showDashboard();
+    bool applicationShouldHandleReopen(bool hasVisibleWindows) override;
+    void popoverDidClose();
+    void openInspectionWindow();
+    [[nodiscard]] bool isDashboardVisible() const;
+
+    // The process list: processes/ProcessRefresh.cpp
+    void startProcessUpdates();
+    void refreshProcesses();
+
+    // The status item: statusitem/UpdateStatusItem.cpp
+    void updateStatusItem();
+
+    // The settings window: settings/SettingsWindow.cpp
+    void openSettings();
+
+private:
+    void updateDashboard();
+    void finishProcessRefresh(const ProcessTask& task, std::int64_t generation,
+                              ProcessSnapshot snapshot);
+    void advanceProcessGeneration();
+    [[nodiscard]] bool hasArgument(const std::string& option) const;
+
+    Platform& platform_;
+    Application& application_;
+    std::vector<std::string> arguments_;
+
+public:
+    Sampler sampler;
+    PreferenceStore& defaults;
+    History history;
+    std::unique_ptr<StatusItem> statusItem;  ///< absent until launch
+    std::unique_ptr<Timer> timer;            ///< the refresh timer
+    std::unique_ptr<Timer> processTimer;     ///< present while process updates run
+    std::shared_ptr<ProcessTask> processTask;
+    std::optional<ProcessSnapshot> previousProcesses;  ///< baseline of the next process list
+    std::int64_t processGeneration = 0;  ///< moves on whenever process updates start or stop
+    std::string lastImageKey;            ///< of the image shown; emptied to force a redraw
+    std::shared_ptr<Dashboard> dashboard;
+    std::unique_ptr<Popover> popover;
+    std::unique_ptr<Window> inspectionWindow;
+
+    // The last refresh's readings. Each refresh overwrites all four.
+    std::optional<double> latestCPU;
+    std::optional<MemoryReading> latestMemory;
+    std::optional<double> latestGPU;
+    MemoryPressure latestPressure = MemoryPressure::unknown;
+};
+
+}  // namespace zephrine

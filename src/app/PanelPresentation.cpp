@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// How the dashboard comes on screen and leaves it: in the popover below the status item, or in the
+// inspection window.
+#include <limits>
+
+#include "app/AppDelegate.h"
+#include "platform/Trap.h"
+
+namespace zephrine {
+
+void AppDelegate::toggleDashboard() {
+    if (popover->isShown()) {
+        popover->performClose();
+    } else {
+        showDashboard();
+    }
+}
+
+void AppDelegate::showDashboard() {
+    require(statusItem != nullptr);
+    StatusItemButton* button = statusItem->button();
+    if (button == nullptr || popover->isShown()) {
+        return;
+    }
+    // From the last refresh's readings: measuring here would shorten the next CPU interval.
+    updateDashboard();
+    application_.activateIgnoringOtherApps();
+    popover->showRelativeTo(*button);
+    startProcessUpdates();
+}
+
+bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {
+    showDashboard();
+    return false;
+}
+
+void AppDelegate::popoverDidClose() {
+    processTimer.reset();
+    advanceProcessGeneration();
+    if (processTask) {
+        processTask->isCancelled = true;
+        processTask.reset();
+    }
+    previousProcesses.reset();
+}
+
+void AppDelegate::openInspectionWindow() {
+    inspectionWindow =
+        application_.windows().makeWindow("Zephrine Dashboard", dashboard->view().frame().size());
+    inspectionWindow->setContentView(dashboard->view());
+    inspectionWindow->center();
+    inspectionWindow->makeKeyAndOrderFront();
+    application_.activateIgnoringOtherApps();
+    startProcessUpdates();
+}
+
+bool AppDelegate::isDashboardVisible() const {
+    return popover->isShown() || (inspectionWindow != nullptr && inspectionWindow->isVisible());
+}
+
+void AppDelegate::updateDashboard() {
+    dashboard->update(latestCPU, latestMemory, latestGPU, latestPressure, history, interval());
+}
+
+void AppDelegate::advanceProcessGeneration() {
+    require(processGeneration < std::numeric_limits<std::int64_t>::max());
+    ++processGeneration;
+}
+
+}  // namespace zephrine

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// The self-test: fixed checks of the arithmetic against reference results, then live readings.
+#pragma once
+
+#include <functional>
+#include <ostream>
+#include <span>
+#include <string_view>
+
+#include "platform/GPURegistry.h"
+#include "platform/HostCounters.h"
+#include "platform/ProcessTable.h"
+
+namespace zephrine {
+
+/// One check with known inputs, exact to the last bit.
+struct FixedCheck {
+    std::string_view name;
+    bool (*holds)();
+};
+
+/// In the order in which the self-test runs them.
+std::span<const FixedCheck> fixedChecks();
+
+struct SelfCheckEnvironment {
+    HostCounters& host;
+    GPURegistry& gpuRegistry;
+    ProcessTable& processTable;
+    std::function<void(double seconds)> sleepForTimeInterval;
+    std::ostream& output;
+    std::ostream& errors;
+};
+
+/// Runs the fixed checks, takes live readings one second apart and prints two lines. Returns only
+/// when everything held; otherwise it ends the process abnormally, so that a script can take any
+/// exit status but 0 for a failure.
+void selfCheck(const SelfCheckEnvironment& environment);
+
+}  // namespace zephrine
