@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+
+#include <gmock/gmock.h>
+
+#include "app/ControllerTest.h"
+
+namespace zephrine {
+namespace {
+
+using AppDelegateTest = ControllerTest;
+using AppDelegateDeathTest = ControllerTest;
+
+TEST_F(AppDelegateTest, PutsAnItemIntoTheStatusBar) {
+    launch();
+    EXPECT_EQ(application().bar.lengths.front(), 74.0);
+    EXPECT_EQ(application().bar.autosaveName, "Zephrine");
+    button().action();
+    EXPECT_TRUE(popover().shown);
+}
+
+TEST_F(AppDelegateDeathTest, CannotLaunchWithoutAnItem) {
+    application().bar.givesItem = false;
+    EXPECT_DEATH(launch(), "^$");
+}
+
+TEST_F(AppDelegateTest, HandsTheDashboardToThePopover) {
+    launch();
+    EXPECT_EQ(popover().content, &controller->dashboard->view());
+    EXPECT_EQ(popover().size, (Size{360, 660}));
+}
+
+TEST_F(AppDelegateTest, RefreshesOnceAtLaunchWithoutACPUReading) {
+    launch();
+    ASSERT_EQ(controller->history.samples.size(), 1U);
+    EXPECT_EQ(controller->history.samples[0].cpu, std::nullopt);
+    EXPECT_TRUE(controller->history.samples[0].ram.has_value());
+}
+
+TEST_F(AppDelegateTest, ReadsTheCountersInOrder) {
+    launch();
+    platform.host.calls.clear();
+    controller->refresh();
+    EXPECT_THAT(platform.host.calls,
+                testing::ElementsAre("host_statistics", "host_page_size", "host_statistics64",
+                                     "memorystatus_vm_pressure_level"));
+}
+
+TEST_F(AppDelegateTest, EveryRefreshRecordsOneSample) {
+    platform.gpus.addUtilization(5.0);
+    platform.host.setUsed(4ULL << 30U);
+    launch();
+    platform.host.advance(30, 70);
+    platform.host.uptime = 1001.5;
+    loop().fire(1.0);
+    EXPECT_EQ(controller->history.samples.back(),
+              (HistorySample{.time = 1001.5, .cpu = 30, .ram = 25, .gpu = 5}));
+    EXPECT_EQ(controller->latestCPU, 30.0);
+    EXPECT_EQ(controller->latestGPU, 5.0);
+    EXPECT_EQ(controller->latestPressure, MemoryPressure::normal);
+}
+
+TEST_F(AppDelegateTest, AnUnreadableMemoryLeavesTheOtherReadingsInTheSample) {
+    platform.gpus.addUtilization(5.0);
+    launch();
+    platform.host.advance(30, 70);
+    platform.host.statistics = std::nullopt;
+    controller->refresh();
+    const HistorySample& sample = controller->history.samples.back();
+    EXPECT_EQ(sample.cpu, 30.0);
+    EXPECT_EQ(sample.ram, std::nullopt);
+    EXPECT_EQ(sample.gpu, 5.0);
+}
+
+TEST_F(AppDelegateTest, NeverCarriesAnOldReadingForward) {
+    platform.gpus.addUtilization(5.0);
+    launch();
+    platform.host.advance(30, 70);
+    controller->refresh();
+    platform.host.ticks = std::nullopt;
+    platform.host.statistics = std::nullopt;
+    platform.host.pressureLevel = std::nullopt;
+    platform.gpus.services[0].statistics = std::nullopt;
+    controller->refresh();
+    EXPECT_EQ(controller->latestCPU, std::nullopt);
+    EXPECT_EQ(controller->latestMemory, std::nullopt);
+    EXPECT_EQ(controller->latestGPU, std::nullopt);
+    EXPECT_EQ(controller->latestPressure, MemoryPressure::unknown);
+}
+
+TEST_F(AppDelegateTest, RefreshesAtTheChosenIntervalWithSomeTolerance) {
+    for (const double interval : {0.5, 1.0, 2.0, 5.0}) {
+        platform.store.setDouble(interval, "refreshInterval");
+        launch();
+        ASSERT_EQ(loop().timers.size(), 1U);
+        EXPECT_EQ(loop().timers.front().interval, interval);
+        EXPECT_DOUBLE_EQ(loop().timers.front().tolerance, interval * 0.15);
+        controller.reset();
+    }
+}
+
+TEST_F(AppDelegateTest, ANewIntervalReplacesTheTimerAndDoesNotRefresh) {
+    platform.store.setInteger(5, "refreshInterval");
+    launch();
+    platform.store.setDouble(0.5, "refreshInterval");
+    controller->resetTimer();
+    ASSERT_EQ(loop().timers.size(), 1U);
+    EXPECT_EQ(loop().timers.front().interval, 0.5);
+    EXPECT_EQ(controller->history.samples.size(), 1U);
+}
+
+TEST_F(AppDelegateTest, WakingUpDropsTheCPUBaselineAndRefreshesAtOnce) {
+    launch();
+    platform.host.advance(30, 70);
+    controller->refresh();
+    platform.host.advance(30, 70);
+    controller->previousProcesses = ProcessSnapshot{};
+    application().didWake();
+    EXPECT_EQ(controller->latestCPU, std::nullopt);
+    EXPECT_EQ(controller->history.samples.size(), 3U);
+    EXPECT_EQ(controller->history.samples.back().cpu, std::nullopt);
+    EXPECT_EQ(platform.gpus.lookUps, 2);
+    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_EQ(loop().timers.size(), 1U);
+
+    platform.host.advance(50, 50);
+    loop().fire(1.0);
+    EXPECT_EQ(controller->latestCPU, 50.0);
+}
+
+TEST_F(AppDelegateTest, EveryChangeOfAppearanceDrawsTheItemAgain) {
+    launch();
+    EXPECT_EQ(button().imagesSet, 1);
+    application().themeChanged();
+    EXPECT_EQ(button().imagesSet, 2);
+    application().themeChanged();
+    EXPECT_EQ(button().imagesSet, 3);
+}
+
+TEST_F(AppDelegateTest, DoesNotTouchTheDashboardWhileItIsHidden) {
+    launch();
+    platform.host.advance(30, 70);
+    controller->refresh();
+    EXPECT_EQ(text(controller->dashboard->cpu), "—");
+}
+
+TEST_F(AppDelegateTest, UpdatesTheDashboardWhileThePopoverIsShown) {
+    launch({"--show-dashboard"});
+    platform.host.advance(30, 70);
+    controller->refresh();
+    EXPECT_EQ(text(controller->dashboard->cpu), "30%");
+}
+
+TEST_F(AppDelegateTest, UpdatesTheDashboardOnlyWhileTheInspectionWindowIsVisible) {
+    launch({"--inspect"});
+    platform.host.advance(30, 70);
+    controller->refresh();
+    EXPECT_EQ(text(controller->dashboard->cpu), "30%");
+    inspectionWindow().visible = false;
+    platform.host.advance(50, 50);
+    controller->refresh();
+    EXPECT_EQ(text(controller->dashboard->cpu), "30%");
+}
+
+}  // namespace
+}  // namespace zephrine

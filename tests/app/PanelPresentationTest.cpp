@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include "app/ControllerTest.h"
+
+namespace zephrine {
+namespace {
+
+using PanelPresentationTest = ControllerTest;
+
+TEST_F(PanelPresentationTest, ClicksOpenCloseAndOpenThePopover) {
+    launch();
+    button().action();
+    EXPECT_TRUE(popover().shown);
+    EXPECT_EQ(popover().anchor, &button());
+    EXPECT_EQ(application().activations, 1);
+    button().action();
+    EXPECT_FALSE(popover().shown);
+    button().action();
+    EXPECT_TRUE(popover().shown);
+}
+
+TEST_F(PanelPresentationTest, OpensWithTheReadingsOfTheLastRefresh) {
+    platform.host.setUsed(4ULL << 30U);
+    launch();
+    platform.host.advance(30, 70);
+    controller->refresh();
+    platform.host.calls.clear();
+    controller->showDashboard();
+    EXPECT_EQ(text(controller->dashboard->cpu), "30%");
+    EXPECT_EQ(text(controller->dashboard->ram), "25%");
+    EXPECT_TRUE(platform.host.calls.empty());
+}
+
+TEST_F(PanelPresentationTest, TheLaunchOptionOpensThePopoverAfterTheFirstRefresh) {
+    platform.host.setUsed(4ULL << 30U);
+    launch({"--show-dashboard"});
+    EXPECT_TRUE(popover().shown);
+    EXPECT_EQ(text(controller->dashboard->ram), "25%");
+}
+
+TEST_F(PanelPresentationTest, OptionsMatchAsWholeStringsOnly) {
+    launch({"--Show-Dashboard", "-show-dashboard", "--show-dashboard=1", "--inspect=1", "x"});
+    EXPECT_FALSE(popover().shown);
+    EXPECT_TRUE(application().windowFactory.windows.empty());
+}
+
+TEST_F(PanelPresentationTest, OpeningTheProgramAgainShowsThePopoverOrLeavesItOpen) {
+    launch();
+    EXPECT_FALSE(controller->applicationShouldHandleReopen(false));
+    EXPECT_TRUE(popover().shown);
+    const auto generation = controller->processGeneration;
+    EXPECT_FALSE(controller->applicationShouldHandleReopen(true));
+    EXPECT_TRUE(popover().shown);
+    EXPECT_EQ(controller->processGeneration, generation);
+}
+
+TEST_F(PanelPresentationTest, AnItemWithoutAButtonShowsNothing) {
+    application().bar.givesButton = false;
+    launch();
+    controller->showDashboard();
+    EXPECT_FALSE(popover().shown);
+    EXPECT_EQ(application().activations, 0);
+}
+
+TEST_F(PanelPresentationTest, AClosedPopoverLeavesTheRefreshTimerRunning) {
+    launch({"--show-dashboard"});
+    EXPECT_EQ(loop().timers.size(), 2U);
+    popover().performClose();
+    ASSERT_EQ(loop().timers.size(), 1U);
+    EXPECT_EQ(loop().timers.front().interval, 1.0);
+}
+
+TEST_F(PanelPresentationTest, TheInspectionWindowIsAnOrdinaryCentredWindow) {
+    launch({"--inspect"});
+    FakeWindow& window = inspectionWindow();
+    EXPECT_EQ(window.title, "Zephrine Dashboard");
+    EXPECT_EQ(window.size, (Size{360, 660}));
+    EXPECT_EQ(window.content, &controller->dashboard->view());
+    EXPECT_EQ(window.calls, (std::vector<std::string>{"center", "makeKeyAndOrderFront"}));
+    EXPECT_EQ(application().activations, 1);
+}
+
+TEST_F(PanelPresentationTest, TheInspectionWindowAloneGetsItsProcessListEveryTwoSeconds) {
+    launch({"--inspect"});
+    platform.table.processes[1].name = "first";
+    finishCapture();
+    EXPECT_EQ(text(*controller->dashboard->processNames[0]), "first");
+    platform.table.processes[1].name = "second";
+    loop().fire(2.0);
+    finishCapture();
+    EXPECT_EQ(text(*controller->dashboard->processNames[0]), "second");
+}
+
+}  // namespace
+}  // namespace zephrine

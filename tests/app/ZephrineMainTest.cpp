@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "app/ZephrineMain.h"
+
+#include <gtest/gtest.h>
+
+#include "fakes/FakePlatform.h"
+
+namespace zephrine {
+namespace {
+
+class ZephrineMainTest : public testing::Test {
+protected:
+    /// Runs the program with `options`; what it printed is in `output` and `errors`.
+    int run(std::vector<std::string> options) {
+        options.insert(options.begin(), "zephrine");
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        const int status = ZephrineMain::main(platform, options);
+        output = testing::internal::GetCapturedStdout();
+        errors = testing::internal::GetCapturedStderr();
+        return status;
+    }
+
+    FakePlatform platform;
+    std::string output;
+    std::string errors;
+};
+
+TEST_F(ZephrineMainTest, PrintsTheLoginStatusAndNothingElse) {
+    platform.login.current = LoginItemStatus::enabled;
+    EXPECT_EQ(run({"--login-status"}), 0);
+    EXPECT_EQ(output, "Launch at login status: 1\n");
+    EXPECT_EQ(platform.applicationsAskedFor, 0);
+}
+
+TEST_F(ZephrineMainTest, PrintsEveryLoginStatusAsItsNumber) {
+    for (const int status : {0, 1, 2, 3}) {
+        platform.login.current = static_cast<LoginItemStatus>(status);
+        run({"--login-status"});
+        EXPECT_EQ(output, "Launch at login status: " + std::to_string(status) + "\n");
+    }
+}
+
+TEST_F(ZephrineMainTest, TheLoginStatusWinsOverLaunchOptions) {
+    EXPECT_EQ(run({"--show-dashboard", "--login-status", "--inspect"}), 0);
+    EXPECT_EQ(output, "Launch at login status: 0\n");
+    EXPECT_EQ(platform.applicationsAskedFor, 0);
+}
+
+TEST_F(ZephrineMainTest, TheSelfTestWinsOverTheLoginStatus) {
+    // No ticks elapse on the fake machine, so the self-test ends in its fatal error.
+    platform.table.processes[1];
+    EXPECT_DEATH(ZephrineMain::main(platform, {"zephrine", "--login-status", "--self-test"}),
+                 "Unable to read live CPU or RAM statistics");
+}
+
+TEST_F(ZephrineMainTest, AnythingElseStartsTheApplication) {
+    for (const char* option : {"--Login-Status", "--login-status=1", "-login-status",
+                               "--self-test=yes", "--SELF-TEST", "anything"}) {
+        platform.application.runs = 0;
+        EXPECT_EQ(run({option}), 0) << option;
+        EXPECT_EQ(platform.application.runs, 1) << option;
+        EXPECT_EQ(output, "") << option;
+    }
+}
+
+TEST_F(ZephrineMainTest, RunsAsAnAccessoryWithAControllerThatEndsWithTheLoop) {
+    EXPECT_EQ(run({}), 0);
+    EXPECT_TRUE(platform.application.isAccessory);
+    EXPECT_TRUE(platform.application.loop.timers.empty());
+}
+
+TEST_F(ZephrineMainTest, SaysInOneLineWhyThereIsNoDesktop) {
+    platform.hasDesktop = false;
+    EXPECT_EQ(run({}), 1);
+    EXPECT_EQ(errors, "zephrine: there is no desktop\n");
+    EXPECT_EQ(output, "");
+}
+
+}  // namespace
+}  // namespace zephrine

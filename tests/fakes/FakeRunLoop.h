@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+// Time and background work under a test's control: timers fire when it says so, and jobs run when
+// it releases them.
+#pragma once
+
+#include <deque>
+#include <iterator>
+#include <list>
+#include <stdexcept>
+#include <utility>
+
+#include "platform/RunLoop.h"
+
+namespace zephrine {
+
+class FakeRunLoop : public RunLoop {
+public:
+    struct Scheduled {
+        double interval;
+        double tolerance;
+        std::function<void()> action;
+    };
+    std::list<Scheduled> timers;  ///< the ones that are alive, oldest first
+    std::deque<std::function<void()>> mainQueue;
+
+    std::unique_ptr<Timer> scheduleTimer(double interval, double tolerance,
+                                         std::function<void()> action) override {
+        timers.push_back({interval, tolerance, std::move(action)});
+        return std::make_unique<Handle>(*this, std::prev(timers.end()));
+    }
+    void performOnMain(std::function<void()> work) override {
+        mainQueue.push_back(std::move(work));
+    }
+
+    /// Fires the only timer of this interval; throws when there is none.
+    void fire(double interval) {
+        for (Scheduled& timer : timers) {
+            if (timer.interval == interval) {
+                const auto action = timer.action;
+                return action();
+            }
+        }
+        throw std::logic_error("no such timer");
+    }
+    /// Runs what is queued for the main thread.
+    void drain() {
+        while (!mainQueue.empty()) {
+            const auto work = std::move(mainQueue.front());
+            mainQueue.pop_front();
+            work();
+        }
+    }
+
+private:
+    class Handle : public Timer {
+    public:
+        Handle(FakeRunLoop& loop, std::list<Scheduled>::iterator timer)
+            : loop_(loop), timer_(timer) {}
+        ~Handle() override { loop_.timers.erase(timer_); }
+        Handle(const Handle&) = delete;
+        Handle& operator=(const Handle&) = delete;
+
+    private:
+        FakeRunLoop& loop_;
+        std::list<Scheduled>::iterator timer_;
+    };
+};
+
+class FakeBackgroundWorker : public BackgroundWorker {
+public:
+    std::deque<std::function<void()>> jobs;
+
+    void perform(std::function<void()> job) override { jobs.push_back(std::move(job)); }
+
+    /// Runs the oldest job that has not run yet.
+    void release() {
+        const auto job = std::move(jobs.front());
+        jobs.pop_front();
+        job();
+    }
+};
+
+}  // namespace zephrine

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+// Controls that remember what they were told and let a test use them.
+#pragma once
+
+#include <optional>
+#include <utility>
+
+#include "platform/Widgets.h"
+
+namespace zephrine {
+
+class FakeView : public virtual View {
+public:
+    std::string kind = "view";
+    Rect rect;
+    std::vector<FakeView*> children;  ///< in the order of adding
+    std::string accessibilityLabel;
+    std::string accessibilityValue;
+    std::string toolTip;
+
+    void setFrame(const Rect& frame) override { rect = frame; }
+    [[nodiscard]] Rect frame() const override { return rect; }
+    void addSubview(View& child) override { children.push_back(dynamic_cast<FakeView*>(&child)); }
+    void setAccessibilityLabel(const std::string& label) override { accessibilityLabel = label; }
+    void setAccessibilityValue(const std::string& value) override { accessibilityValue = value; }
+    void setToolTip(const std::string& text) override { toolTip = text; }
+};
+
+class FakeLabel : public FakeView, public Label {
+public:
+    explicit FakeLabel(std::string initial) : text(std::move(initial)) { kind = "label"; }
+    std::string text;
+    std::optional<Font> font;
+    Color color = Color::labelColor;
+    TextAlignment alignment = TextAlignment::natural;
+    LineBreakMode lineBreakMode = LineBreakMode::clipping;
+
+    void setStringValue(const std::string& newText) override { text = newText; }
+    [[nodiscard]] std::string stringValue() const override { return text; }
+    void setFont(const Font& newFont) override { font = newFont; }
+    void setTextColor(Color newColor) override { color = newColor; }
+    void setAlignment(TextAlignment newAlignment) override { alignment = newAlignment; }
+    void setLineBreakMode(LineBreakMode mode) override { lineBreakMode = mode; }
+};
+
+class FakeImageView : public FakeView, public ImageView {
+public:
+    explicit FakeImageView(bool imageExists) : imageExists_(imageExists) { kind = "image"; }
+    std::string imageName;
+    bool showsApplicationIcon = false;
+
+    bool setImageNamed(const std::string& name) override {
+        if (imageExists_) {
+            imageName = name;
+        }
+        return imageExists_;
+    }
+    void setApplicationIcon() override { showsApplicationIcon = true; }
+
+private:
+    bool imageExists_;
+};
+
+class FakeButton : public FakeView, public Button {
+public:
+    explicit FakeButton(std::string text) : title(std::move(text)) { kind = "button"; }
+    std::string title;
+    std::function<void()> press;
+
+    void setAction(std::function<void()> action) override { press = std::move(action); }
+};
+
+class FakeSegmentedControl : public FakeView, public SegmentedControl {
+public:
+    explicit FakeSegmentedControl(std::vector<std::string> texts) : labels(std::move(texts)) {
+        kind = "segments";
+    }
+    std::vector<std::string> labels;
+    int selected = -1;
+    std::function<void()> action;
+
+    void setSelectedSegment(int index) override { selected = index; }
+    [[nodiscard]] int selectedSegment() const override { return selected; }
+    void setAction(std::function<void()> newAction) override { action = std::move(newAction); }
+    /// Does what a user's click on the segment does.
+    void click(int index) {
+        selected = index;
+        action();
+    }
+};
+
+class FakeCanvas : public FakeView, public Canvas {
+public:
+    FakeCanvas() { kind = "canvas"; }
+    std::function<void(DrawingContext&, Size)> draw;
+    int displaysNeeded = 0;
+
+    void setDrawingHandler(std::function<void(DrawingContext&, Size)> handler) override {
+        draw = std::move(handler);
+    }
+    void setNeedsDisplay() override { ++displaysNeeded; }
+};
+
+class FakeWidgetFactory : public WidgetFactory {
+public:
+    bool imagesExist = true;
+
+    std::unique_ptr<View> makeView(const Rect& frame) override {
+        auto view = std::make_unique<FakeView>();
+        view->rect = frame;
+        return view;
+    }
+    std::unique_ptr<Label> makeLabel(const std::string& text) override {
+        return std::make_unique<FakeLabel>(text);
+    }
+    std::unique_ptr<ImageView> makeImageView() override {
+        return std::make_unique<FakeImageView>(imagesExist);
+    }
+    std::unique_ptr<Button> makeButton(const std::string& title) override {
+        return std::make_unique<FakeButton>(title);
+    }
+    std::unique_ptr<SegmentedControl> makeSegmentedControl(
+        const std::vector<std::string>& labels) override {
+        return std::make_unique<FakeSegmentedControl>(labels);
+    }
+    std::unique_ptr<View> makeSeparator() override {
+        auto separator = std::make_unique<FakeView>();
+        separator->kind = "separator";
+        return separator;
+    }
+    std::unique_ptr<Canvas> makeCanvas() override { return std::make_unique<FakeCanvas>(); }
+};
+
+/// The fake behind a control that was made by a `FakeWidgetFactory`.
+template <typename Fake>
+Fake& fake(View& view) {
+    return dynamic_cast<Fake&>(view);
+}
+
+}  // namespace zephrine

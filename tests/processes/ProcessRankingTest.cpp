@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "dashboard/Dashboard.h"
+#include "fakes/FakePlatform.h"
+
+namespace zephrine {
+namespace {
+
+using testing::ElementsAre;
+
+class ProcessRankingTest : public testing::Test {
+protected:
+    ProcessRankingTest() { dashboard.loadView(); }
+
+    std::vector<std::string> names() { return texts(dashboard.processNames); }
+    std::vector<std::string> values() { return texts(dashboard.processValues); }
+    std::string toolTip(std::size_t row) {
+        return fake<FakeLabel>(*dashboard.processNames[row]).toolTip;
+    }
+    FakeSegmentedControl& sort() { return fake<FakeSegmentedControl>(*dashboard.processSort); }
+
+    static std::vector<std::string> texts(const std::vector<std::unique_ptr<Label>>& labels) {
+        std::vector<std::string> all;
+        for (const auto& label : labels) {
+            all.push_back(label->stringValue());
+        }
+        return all;
+    }
+
+    FakePlatform platform;
+    Dashboard dashboard{platform.application, platform.texts};
+};
+
+using ProcessRankingDeathTest = ProcessRankingTest;
+
+TEST_F(ProcessRankingTest, AnEmptyDeliverySaysSo) {
+    dashboard.updateProcesses({});
+    EXPECT_THAT(names(), ElementsAre("No readable processes", "", "", "", ""));
+    EXPECT_THAT(values(), ElementsAre("", "", "", "", ""));
+}
+
+TEST_F(ProcessRankingTest, RanksByCPUShareWithTheHighestFirst) {
+    dashboard.updateProcesses({{1, "a", 1.0, 0}, {2, "b", 99.96, 0}, {3, "c", 12.34, 0}});
+    EXPECT_THAT(names(), ElementsAre("b", "c", "a", "", ""));
+    EXPECT_THAT(values(), ElementsAre("100.0%", "12.3%", "1.0%", "", ""));
+}
+
+TEST_F(ProcessRankingTest, ShowsNoMoreThanFive) {
+    std::vector<ProcessUsage> rows;
+    for (int i = 1; i <= 7; ++i) {
+        rows.push_back({i, std::to_string(i), static_cast<double>(i), 0});
+    }
+    dashboard.updateProcesses(rows);
+    EXPECT_THAT(names(), ElementsAre("7", "6", "5", "4", "3"));
+    EXPECT_EQ(dashboard.processRows, rows);
+}
+
+TEST_F(ProcessRankingTest, AShareOfZeroRanksAboveAnUnknownOne) {
+    dashboard.updateProcesses({{1, "unknown", {}, 0}, {2, "zero", 0.0, 0}});
+    EXPECT_THAT(names(), ElementsAre("zero", "unknown", "", "", ""));
+    EXPECT_THAT(values(), ElementsAre("0.0%", "—", "", "", ""));
+}
+
+TEST_F(ProcessRankingTest, RowsThatTieKeepTheirOrder) {
+    dashboard.updateProcesses({{1, "a", {}, 1}, {2, "b", {}, 2}, {3, "c", {}, 3}});
+    EXPECT_THAT(names(), ElementsAre("a", "b", "c", "", ""));
+    EXPECT_THAT(values(), ElementsAre("—", "—", "—", "", ""));
+}
+
+TEST_F(ProcessRankingTest, SwitchingToMemoryRanksTheRowsAlreadyHeld) {
+    dashboard.updateProcesses({{1, "a", 50.0, 10}, {2, "b", {}, 30}, {3, "c", 1.0, 20}});
+    sort().click(1);
+    EXPECT_THAT(names(), ElementsAre("b", "c", "a", "", ""));
+    EXPECT_THAT(values(), ElementsAre("30 bytes", "20 bytes", "10 bytes", "", ""));
+    sort().click(0);
+    EXPECT_THAT(names(), ElementsAre("a", "c", "b", "", ""));
+}
+
+TEST_F(ProcessRankingTest, NoSelectionRanksByCPU) {
+    sort().selected = -1;
+    dashboard.updateProcesses({{1, "a", 1.0, 20}, {2, "b", 2.0, 10}});
+    EXPECT_THAT(names(), ElementsAre("b", "a", "", "", ""));
+}
+
+TEST_F(ProcessRankingTest, AFootprintBeyondTheFormatterIsCut) {
+    sort().selected = 1;
+    dashboard.updateProcesses({{1, "a", {}, ~0ULL}});
+    EXPECT_EQ(values()[0], "9223372036854775807 bytes");
+}
+
+TEST_F(ProcessRankingTest, TheToolTipNamesThePidAndOutlivesItsRow) {
+    dashboard.updateProcesses({{1, "Test", 2.0, 0}, {4711, "Other", 1.0, 0}});
+    EXPECT_EQ(toolTip(0), "Test · PID 1");
+    EXPECT_EQ(toolTip(1), "Other · PID 4711");
+    dashboard.updateProcesses({{1, "Test", 2.0, 0}});
+    EXPECT_EQ(names()[1], "");
+    EXPECT_EQ(toolTip(1), "Other · PID 4711");
+}
+
+TEST_F(ProcessRankingDeathTest, RankingBeforeTheViewWasBuiltStopsTheProgram) {
+    Dashboard early(platform.application, platform.texts);
+    EXPECT_DEATH(early.sortProcesses(), "^$");
+}
+
+}  // namespace
+}  // namespace zephrine

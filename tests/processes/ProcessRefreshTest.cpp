@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include "app/ControllerTest.h"
+
+namespace zephrine {
+namespace {
+
+class ProcessRefreshTest : public ControllerTest {
+protected:
+    ProcessRefreshTest() {
+        platform.table.processes[1].name = "worker";
+        platform.table.clockStep = 100;
+    }
+
+    /// Lets every process use `time` units of CPU.
+    void spend(std::uint64_t time) {
+        for (auto& [pid, process] : platform.table.processes) {
+            process.usage->ri_user_time += time;
+        }
+    }
+    std::string firstName() { return text(*controller->dashboard->processNames[0]); }
+    std::string firstValue() { return text(*controller->dashboard->processValues[0]); }
+    bool isRunning() { return controller->processTimer != nullptr; }
+    bool isInFlight() { return controller->processTask != nullptr; }
+};
+
+TEST_F(ProcessRefreshTest, IsStoppedUntilThePanelOpens) {
+    launch();
+    EXPECT_FALSE(isRunning());
+    EXPECT_FALSE(isInFlight());
+    EXPECT_EQ(controller->processGeneration, 0);
+    controller->refreshProcesses();
+    EXPECT_TRUE(worker().jobs.empty());
+}
+
+TEST_F(ProcessRefreshTest, OpeningStartsACaptureAtOnceAndATwoSecondTimer) {
+    launch({"--show-dashboard"});
+    EXPECT_TRUE(isInFlight());
+    EXPECT_EQ(worker().jobs.size(), 1U);
+    ASSERT_TRUE(isRunning());
+    EXPECT_EQ(loop().timers.back().interval, 2.0);
+    EXPECT_EQ(loop().timers.back().tolerance, 0.0);
+}
+
+TEST_F(ProcessRefreshTest, TheFirstListHasNoSharesAndTheNextOneHas) {
+    launch({"--show-dashboard"});
+    EXPECT_EQ(firstName(), "Measuring…");
+    finishCapture();
+    EXPECT_EQ(firstName(), "worker");
+    EXPECT_EQ(firstValue(), "—");
+    EXPECT_FALSE(isInFlight());
+
+    spend(40);
+    loop().fire(2.0);
+    finishCapture();
+    EXPECT_EQ(firstValue(), "10.0%");  // 40 of 100 units on four processors
+}
+
+TEST_F(ProcessRefreshTest, CountsTheProcessorsOfTheMoment) {
+    launch({"--show-dashboard"});
+    finishCapture();
+    spend(40);
+    platform.host.processors = 2;
+    loop().fire(2.0);
+    finishCapture();
+    EXPECT_EQ(firstValue(), "20.0%");
+}
+
+TEST_F(ProcessRefreshTest, CapturesNeverOverlap) {
+    launch({"--show-dashboard"});
+    loop().fire(2.0);
+    loop().fire(2.0);
+    EXPECT_EQ(worker().jobs.size(), 1U);
+    finishCapture();
+    loop().fire(2.0);
+    EXPECT_EQ(worker().jobs.size(), 1U);
+}
+
+TEST_F(ProcessRefreshTest, TheCaptureRunsOnTheWorkerAndComesBackToTheMainThread) {
+    launch({"--show-dashboard"});
+    EXPECT_TRUE(platform.table.calls.empty());
+    worker().release();
+    EXPECT_FALSE(platform.table.calls.empty());
+    EXPECT_TRUE(isInFlight());
+    EXPECT_EQ(firstName(), "Measuring…");
+    loop().drain();
+    EXPECT_FALSE(isInFlight());
+    EXPECT_EQ(firstName(), "worker");
+}
+
+TEST_F(ProcessRefreshTest, ClosingStopsEverything) {
+    launch({"--show-dashboard"});
+    finishCapture();
+    const auto generation = controller->processGeneration;
+    popover().performClose();
+    EXPECT_FALSE(isRunning());
+    EXPECT_FALSE(isInFlight());
+    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_EQ(controller->processGeneration, generation + 1);
+}
+
+TEST_F(ProcessRefreshTest, ACaptureThatFinishesAfterClosingIsNeverUsed) {
+    launch({"--show-dashboard"});
+    popover().performClose();
+    finishCapture();
+    EXPECT_EQ(firstName(), "Measuring…");
+    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_FALSE(isInFlight());
+}
+
+TEST_F(ProcessRefreshTest, ACaptureOfAnEarlierOpeningIsDroppedAndLeavesTheNewOneAlone) {
+    launch({"--show-dashboard"});
+    popover().performClose();
+    controller->showDashboard();
+    ASSERT_EQ(worker().jobs.size(), 2U);
+    platform.table.processes[1].name = "old";
+    finishCapture();
+    EXPECT_TRUE(isInFlight());
+    EXPECT_EQ(firstName(), "Measuring…");
+    EXPECT_FALSE(controller->previousProcesses.has_value());
+    platform.table.processes[1].name = "new";
+    finishCapture();
+    EXPECT_EQ(firstName(), "new");
+    EXPECT_FALSE(isInFlight());
+}
+
+TEST_F(ProcessRefreshTest, ReopeningStartsWithoutABaseline) {
+    launch({"--show-dashboard"});
+    finishCapture();
+    popover().performClose();
+    controller->showDashboard();
+    spend(40);
+    finishCapture();
+    EXPECT_EQ(firstValue(), "—");
+}
+
+TEST_F(ProcessRefreshTest, ACaptureThatFinishesWhileThePanelIsHiddenIsDropped) {
+    launch({"--inspect"});
+    inspectionWindow().visible = false;
+    finishCapture();
+    EXPECT_EQ(firstName(), "Measuring…");
+    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_FALSE(isInFlight());
+}
+
+TEST_F(ProcessRefreshTest, ACancelledCaptureIsDroppedAndClearsItsTask) {
+    launch({"--show-dashboard"});
+    controller->processTask->isCancelled = true;
+    finishCapture();
+    EXPECT_EQ(firstName(), "Measuring…");
+    EXPECT_FALSE(isInFlight());
+}
+
+TEST_F(ProcessRefreshTest, TicksOfAClosedInspectionWindowDoNothing) {
+    launch({"--inspect"});
+    finishCapture();
+    inspectionWindow().visible = false;
+    loop().fire(2.0);
+    EXPECT_TRUE(worker().jobs.empty());
+    EXPECT_TRUE(isRunning());
+    inspectionWindow().visible = true;
+    loop().fire(2.0);
+    EXPECT_EQ(worker().jobs.size(), 1U);
+}
+
+TEST_F(ProcessRefreshTest, BothLaunchOptionsTogetherStallTheListUntilThePanelCloses) {
+    launch({"--show-dashboard", "--inspect"});
+    EXPECT_EQ(worker().jobs.size(), 1U);
+    finishCapture();  // of the generation before: stale
+    EXPECT_TRUE(isInFlight());
+    EXPECT_EQ(firstName(), "Measuring…");
+    loop().fire(2.0);
+    EXPECT_TRUE(worker().jobs.empty());
+    popover().performClose();
+    EXPECT_FALSE(isInFlight());
+    controller->showDashboard();
+    finishCapture();
+    EXPECT_EQ(firstName(), "worker");
+}
+
+TEST_F(ProcessRefreshTest, WakingUpTakesTheBaselineAway) {
+    launch({"--show-dashboard"});
+    finishCapture();
+    application().didWake();
+    spend(40);
+    loop().fire(2.0);
+    finishCapture();
+    EXPECT_EQ(firstValue(), "—");
+    spend(40);
+    loop().fire(2.0);
+    finishCapture();
+    EXPECT_EQ(firstValue(), "10.0%");
+}
+
+TEST_F(ProcessRefreshTest, AResultThatOutlivesTheControllerIsDropped) {
+    launch({"--show-dashboard"});
+    worker().release();
+    controller.reset();
+    loop().drain();
+    EXPECT_TRUE(loop().mainQueue.empty());
+}
+
+}  // namespace
+}  // namespace zephrine

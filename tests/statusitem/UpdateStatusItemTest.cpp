@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include "app/ControllerTest.h"
+
+namespace zephrine {
+namespace {
+
+class UpdateStatusItemTest : public ControllerTest {
+protected:
+    /// The first line of the picture that the item now shows.
+    std::string firstLine() { return drawn().texts.at(0).text; }
+    std::string secondLine() { return drawn().texts.at(1).text; }
+    RecordingContext drawn() {
+        RecordingContext context;
+        button().image.wide.drawingHandler(context);
+        return context;
+    }
+};
+
+TEST_F(UpdateStatusItemTest, ShowsTheReadingsInPictureToolTipAndAccessibilityLabel) {
+    platform.host.setUsed(4ULL << 30U);
+    launch();
+    platform.host.advance(30, 70);
+    controller->refresh();
+    EXPECT_EQ(firstLine(), "CPU  30%");
+    EXPECT_EQ(secondLine(), "RAM  25%");
+    EXPECT_EQ(button().toolTip, "CPU  30%, RAM 4.0 of 16 GB, memory pressure Normal");
+    EXPECT_EQ(button().accessibilityLabel, button().toolTip);
+    EXPECT_EQ(controller->lastImageKey, " 30%- 25%-9.0-1-false");
+}
+
+TEST_F(UpdateStatusItemTest, DrawsOnceForUnchangedReadingsButDescribesEachTime) {
+    launch();
+    const auto measurements = application().measure.measurements;
+    controller->updateStatusItem();
+    EXPECT_EQ(button().imagesSet, 1);
+    EXPECT_EQ(button().toolTipsSet, 2);
+    EXPECT_EQ(button().labelsSet, 2);
+    EXPECT_EQ(application().measure.measurements, measurements);
+}
+
+TEST_F(UpdateStatusItemTest, FollowsTheAppearanceOfTheBar) {
+    launch();
+    EXPECT_EQ(drawn().texts[0].color, Color::black);
+    button().appearance = Appearance::darkAqua;
+    controller->updateStatusItem();
+    EXPECT_EQ(button().imagesSet, 2);
+    EXPECT_EQ(drawn().texts[0].color, Color::white);
+    button().appearance = std::nullopt;
+    controller->updateStatusItem();
+    EXPECT_EQ(drawn().texts[0].color, Color::black);
+}
+
+TEST_F(UpdateStatusItemTest, TheItemIsTwelvePointsLongerThanThePicture) {
+    launch();
+    const double medium = application().bar.lengths.back();
+    EXPECT_EQ(medium, button().image.wide.size.width + 12);
+    platform.store.setInteger(10, "fontSize");
+    controller->updateStatusItem();
+    EXPECT_GT(application().bar.lengths.back(), medium);
+    EXPECT_EQ(application().bar.lengths.back(), button().image.wide.size.width + 12);
+}
+
+TEST_F(UpdateStatusItemTest, ShowsDashesAndAGreyDotWithoutAnyReading) {
+    platform.host.ticks = std::nullopt;
+    platform.host.statistics = std::nullopt;
+    platform.host.pressureLevel = std::nullopt;
+    launch();
+    EXPECT_EQ(firstLine(), "CPU   — ");
+    EXPECT_EQ(secondLine(), "RAM   — ");
+    EXPECT_EQ(drawn().ovals[0].color, Color::secondaryLabelColor);
+    EXPECT_EQ(button().toolTip, "CPU   — , RAM unavailable, memory pressure Unavailable");
+}
+
+TEST_F(UpdateStatusItemTest, ShowsGigabytesWhenTheUserWantsThem) {
+    platform.host.setUsed(4ULL << 30U);
+    platform.store.setBool(true, "ramInGB");
+    launch();
+    EXPECT_EQ(secondLine(), "RAM  4.0G");
+}
+
+TEST_F(UpdateStatusItemTest, DoesNotAskForTheUnitWithoutAMemoryReading) {
+    platform.host.statistics = std::nullopt;
+    launch();
+    platform.store.reads = 0;
+    controller->updateStatusItem();
+    const int withoutMemory = platform.store.reads;
+    platform.host.statistics = vm_statistics64{};
+    controller->refresh();
+    platform.store.reads = 0;
+    controller->updateStatusItem();
+    EXPECT_EQ(platform.store.reads, withoutMemory + 1);
+}
+
+TEST_F(UpdateStatusItemTest, AnItemWithoutAButtonIsLeftAlone) {
+    application().bar.givesButton = false;
+    launch();
+    EXPECT_EQ(controller->lastImageKey, "");
+    EXPECT_EQ(application().bar.lengths.size(), 1U);
+    EXPECT_EQ(button().imagesSet, 0);
+    EXPECT_EQ(button().toolTipsSet, 0);
+}
+
+TEST_F(UpdateStatusItemTest, TheSquareFormShowsTheSameFigures) {
+    platform.host.setUsed(4ULL << 30U);
+    launch();
+    platform.host.advance(30, 70);
+    controller->refresh();
+    RecordingContext context;
+    button().image.square(22).drawingHandler(context);
+    EXPECT_EQ(context.texts.at(0).text, "30");
+    EXPECT_EQ(context.texts.at(1).text, "25");
+}
+
+}  // namespace
+}  // namespace zephrine
