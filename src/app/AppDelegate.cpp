@@ -93,11 +93,11 @@ void AppDelegate::themeChanged() {
 }
 
 double AppDelegate::interval() const {
-    return preferences::interval(defaults);
+    return preferences::refreshInterval.value(defaults);
 }
 
 double AppDelegate::fontSize() const {
-    return preferences::fontSize(defaults);
+    return preferences::fontSize.value(defaults);
 }
 
 bool AppDelegate::hasArgument(const std::string& option) const {

@@ -1,25 +1,44 @@
 // SPDX-License-Identifier: MIT
 #include "app/Preferences.h"
 
-#include <algorithm>
-#include <initializer_list>
+#include "platform/Trap.h"
 
-namespace zephrine::preferences {
+namespace zephrine {
 
-namespace {
-
-double allowedOr(double fallback, double value, std::initializer_list<double> allowed) {
-    return std::find(allowed.begin(), allowed.end(), value) != allowed.end() ? value : fallback;
+double NumberOption::value() const {
+    return std::visit([](auto number) { return static_cast<double>(number); }, stored);
 }
 
-}  // namespace
-
-double interval(const PreferenceStore& store) {
-    return allowedOr(1.0, store.doubleForKey(refreshIntervalKey), {0.5, 1, 2, 5});
+std::size_t NumberPreference::index(const PreferenceStore& store) const {
+    const double stored = store.doubleForKey(key);
+    for (std::size_t i = 0; i < options.size(); ++i) {
+        if (options[i].value() == stored) {
+            return i;
+        }
+    }
+    return defaultIndex;
 }
 
-double fontSize(const PreferenceStore& store) {
-    return allowedOr(9, store.doubleForKey(fontSizeKey), {8, 9, 10});
+double NumberPreference::value(const PreferenceStore& store) const {
+    return options[index(store)].value();
 }
 
-}  // namespace zephrine::preferences
+void NumberPreference::choose(int index, PreferenceStore& store) const {
+    require(index >= 0 && static_cast<std::size_t>(index) < options.size());
+    const auto& stored = options[static_cast<std::size_t>(index)].stored;
+    if (const auto* integer = std::get_if<std::int64_t>(&stored)) {
+        store.setInteger(*integer, key);
+    } else {
+        store.setDouble(std::get<double>(stored), key);
+    }
+}
+
+std::vector<std::string> NumberPreference::titles() const {
+    std::vector<std::string> all;
+    for (const NumberOption& option : options) {
+        all.emplace_back(option.title);
+    }
+    return all;
+}
+
+}  // namespace zephrine

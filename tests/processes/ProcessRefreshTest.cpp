@@ -92,8 +92,11 @@ TEST_F(ProcessRefreshTest, TheCaptureRunsOnTheWorkerAndComesBackToTheMainThread)
 TEST_F(ProcessRefreshTest, ClosingStopsEverything) {
     launch({"--show-dashboard"});
     finishCapture();
+    loop().fire(2.0);
+    const auto task = controller->processTask;
     const auto generation = controller->processGeneration;
     popover().performClose();
+    EXPECT_TRUE(task->isCancelled);
     EXPECT_FALSE(isRunning());
     EXPECT_FALSE(isInFlight());
     EXPECT_FALSE(controller->previousProcesses.has_value());
