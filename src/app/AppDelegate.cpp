@@ -51,8 +51,14 @@ void AppDelegate::applicationDidFinishLaunching() {
     resetTimer();
     refresh();
 
+    if (hasArgument("--enable-login")) {
+        setLogin(true);
+    }
     if (hasArgument("--show-dashboard")) {
         showDashboard();
+    }
+    if (hasArgument("--show-settings")) {
+        openSettings();
     }
     if (hasArgument("--inspect")) {
         openInspectionWindow();

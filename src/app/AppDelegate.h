@@ -14,6 +14,7 @@
 #include "processes/ProcessSnapshot.h"
 #include "sampling/History.h"
 #include "sampling/Sampler.h"
+#include "settings/SettingsWindow.h"
 
 namespace zephrine {
 
@@ -58,9 +59,18 @@ public:
 
     // The settings window: settings/SettingsWindow.cpp
     void openSettings();
+    void ramChanged(const PopUpButton& sender);
+    void fontChanged(const PopUpButton& sender);
+    void intervalChanged(const PopUpButton& sender);
+
+    // Launch at login: settings/LaunchAtLogin.cpp
+    void setLogin(bool enabled);
+    void updateLoginStatus();
+    void loginChanged();
 
 private:
     void updateDashboard();
+    void makeSettingsWindow();
     void finishProcessRefresh(const ProcessTask& task, std::int64_t generation,
                               ProcessSnapshot snapshot);
     void advanceProcessGeneration();
@@ -83,6 +93,7 @@ public:
     std::string lastImageKey;            ///< of the image shown; emptied to force a redraw
     std::shared_ptr<Dashboard> dashboard;
     std::unique_ptr<Popover> popover;
+    std::unique_ptr<SettingsWindow> settingsWindow;  ///< absent until it is first opened
     std::unique_ptr<Window> inspectionWindow;
 
     // The last refresh's readings. Each refresh overwrites all four.

@@ -24,6 +24,10 @@ public:
     virtual ~LoginItem() = default;
 
     [[nodiscard]] virtual LoginItemStatus status() const = 0;
+
+    /// Both return what went wrong, in the system's own words; absent when nothing did.
+    [[nodiscard]] virtual std::optional<std::string> registerItem() = 0;
+    [[nodiscard]] virtual std::optional<std::string> unregisterItem() = 0;
 };
 
 }  // namespace zephrine

@@ -60,6 +60,24 @@ public:
     virtual void setAction(std::function<void()> action) = 0;
 };
 
+/// A box to tick, with its title beside it.
+class CheckBox : public virtual View {
+public:
+    /// Setting it does not call the action.
+    virtual void setOn(bool on) = 0;
+    [[nodiscard]] virtual bool isOn() const = 0;
+    virtual void setAction(std::function<void()> action) = 0;
+};
+
+/// A button that shows one of several titles and opens the list of them all.
+class PopUpButton : public virtual View {
+public:
+    /// Index of the item shown, −1 for none. Setting it does not call the action.
+    virtual void selectItem(int index) = 0;
+    [[nodiscard]] virtual int indexOfSelectedItem() const = 0;
+    virtual void setAction(std::function<void()> action) = 0;
+};
+
 /// Two or more segments of which one is selected.
 class SegmentedControl : public virtual View {
 public:
@@ -86,6 +104,10 @@ public:
     virtual std::unique_ptr<Label> makeLabel(const std::string& text) = 0;
     virtual std::unique_ptr<ImageView> makeImageView() = 0;
     virtual std::unique_ptr<Button> makeButton(const std::string& title) = 0;
+    virtual std::unique_ptr<CheckBox> makeCheckBox(const std::string& title) = 0;
+    /// The first item is selected.
+    virtual std::unique_ptr<PopUpButton> makePopUpButton(
+        const std::vector<std::string>& titles) = 0;
     virtual std::unique_ptr<SegmentedControl> makeSegmentedControl(
         const std::vector<std::string>& labels) = 0;
     virtual std::unique_ptr<View> makeSeparator() = 0;

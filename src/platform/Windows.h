@@ -48,6 +48,11 @@ public:
 
     virtual std::unique_ptr<Popover> makePopover() = 0;
     virtual std::unique_ptr<Window> makeWindow(const std::string& title, Size contentSize) = 0;
+
+    /// Shows an alert with one button and returns once the user has dismissed it. Both texts are
+    /// plain.
+    virtual void runModalAlert(const std::string& messageText,
+                               const std::string& informativeText) = 0;
 };
 
 }  // namespace zephrine

@@ -43,8 +43,26 @@ public:
 class FakeLoginItem : public LoginItem {
 public:
     LoginItemStatus current = LoginItemStatus::notRegistered;
+    LoginItemStatus afterRegistering = LoginItemStatus::enabled;
+    std::optional<std::string> error;  ///< what the next changes fail with
+    int registrations = 0;
+    int unregistrations = 0;
 
     [[nodiscard]] LoginItemStatus status() const override { return current; }
+    std::optional<std::string> registerItem() override {
+        ++registrations;
+        if (!error) {
+            current = afterRegistering;
+        }
+        return error;
+    }
+    std::optional<std::string> unregisterItem() override {
+        ++unregistrations;
+        if (!error) {
+            current = LoginItemStatus::notRegistered;
+        }
+        return error;
+    }
 };
 
 class FakeFormatting : public Formatting {

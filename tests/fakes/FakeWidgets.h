@@ -70,6 +70,42 @@ public:
     void setAction(std::function<void()> action) override { press = std::move(action); }
 };
 
+class FakeCheckBox : public FakeView, public CheckBox {
+public:
+    explicit FakeCheckBox(std::string text) : title(std::move(text)) { kind = "check box"; }
+    std::string title;
+    bool on = false;
+    std::function<void()> action;
+
+    void setOn(bool nowOn) override { on = nowOn; }
+    [[nodiscard]] bool isOn() const override { return on; }
+    void setAction(std::function<void()> newAction) override { action = std::move(newAction); }
+    /// Does what a user's click does.
+    void click() {
+        on = !on;
+        action();
+    }
+};
+
+class FakePopUpButton : public FakeView, public PopUpButton {
+public:
+    explicit FakePopUpButton(std::vector<std::string> texts) : titles(std::move(texts)) {
+        kind = "pop-up";
+    }
+    std::vector<std::string> titles;
+    int selected = 0;
+    std::function<void()> action;
+
+    void selectItem(int index) override { selected = index; }
+    [[nodiscard]] int indexOfSelectedItem() const override { return selected; }
+    void setAction(std::function<void()> newAction) override { action = std::move(newAction); }
+    /// Does what a user's choice does.
+    void choose(int index) {
+        selected = index;
+        action();
+    }
+};
+
 class FakeSegmentedControl : public FakeView, public SegmentedControl {
 public:
     explicit FakeSegmentedControl(std::vector<std::string> texts) : labels(std::move(texts)) {
@@ -118,6 +154,12 @@ public:
     }
     std::unique_ptr<Button> makeButton(const std::string& title) override {
         return std::make_unique<FakeButton>(title);
+    }
+    std::unique_ptr<CheckBox> makeCheckBox(const std::string& title) override {
+        return std::make_unique<FakeCheckBox>(title);
+    }
+    std::unique_ptr<PopUpButton> makePopUpButton(const std::vector<std::string>& titles) override {
+        return std::make_unique<FakePopUpButton>(titles);
     }
     std::unique_ptr<SegmentedControl> makeSegmentedControl(
         const std::vector<std::string>& labels) override {

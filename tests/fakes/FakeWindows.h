@@ -55,6 +55,12 @@ public:
 
 class FakeWindowFactory : public WindowFactory {
 public:
+    struct Alert {
+        std::string messageText;
+        std::string informativeText;
+    };
+    std::vector<Alert> alerts;         ///< all that were shown and dismissed
+    std::function<void()> whileAlert;  ///< runs while an alert is on screen
     FakePopover* popover = nullptr;    ///< the last one made
     std::vector<FakeWindow*> windows;  ///< all that were made; the makers own them
 
@@ -67,6 +73,13 @@ public:
         auto made = std::make_unique<FakeWindow>(title, contentSize);
         windows.push_back(made.get());
         return made;
+    }
+    void runModalAlert(const std::string& messageText,
+                       const std::string& informativeText) override {
+        if (whileAlert) {
+            whileAlert();
+        }
+        alerts.push_back({messageText, informativeText});
     }
 };
 
