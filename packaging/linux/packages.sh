@@ -1,0 +1,64 @@
+# shellcheck shell=bash
+# SPDX-License-Identifier: MIT
+# Which Debian and Ubuntu packages Zephrine is built, shown and tested with, and how missing ones
+# are installed. Sourced by ./run and ./test, which ask for the lists that they need.
+
+# shellcheck disable=SC2034  # the lists are used by the scripts that source this file
+build_packages=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev libxcb1-dev nlohmann-json3-dev
+    fonts-dejavu-core
+)
+# A private desktop for machines without one: tests/desktop/desktop.py.
+# shellcheck disable=SC2034
+desktop_packages=(
+    xvfb openbox xfce4-panel dbus-daemon
+    python3 python3-jeepney python3-pil
+    x11-xserver-utils xdotool
+)
+
+# shellcheck disable=SC2034
+test_packages=(
+    libgtest-dev libgmock-dev clang-format-14
+    locales ccache procps python3 strace
+)
+
+# Prints those of the packages "$@" that are not installed. Other systems than Debian's have other
+# names for them: there, everything counts as installed, and what is missing shows in the build.
+missing_packages() {
+    command -v dpkg-query >/dev/null || return 0
+    # shellcheck disable=SC2016  # the fields are dpkg-query's to fill in
+    local installed package format='${db:Status-Status} ${Package}\n'
+    installed=$(dpkg-query --show --showformat "$format" "$@" 2>/dev/null) || true
+    for package in "$@"; do
+        [[ $'\n'$installed$'\n' == *$'\n'"installed $package"$'\n'* ]] || echo "$package"
+    done
+}
+
+# install_packages LOG PACKAGE...: installs what is missing, after saying what. What apt prints
+# goes to the file LOG, and to the terminal only when something fails.
+install_packages() {
+    local log=$1 missing as_root=()
+    shift
+    mapfile -t missing < <(missing_packages "$@")
+    ((${#missing[@]})) || return 0
+
+    local install=(apt-get install --yes --no-install-recommends "${missing[@]}")
+    echo "Installing packages that are missing here: ${missing[*]}"
+    if ((EUID != 0)); then
+        if ! command -v sudo >/dev/null; then
+            printf '%s\n' "This needs root, and there is no sudo here. As root, run:" \
+                "    apt-get update && ${install[*]}" "and start again." >&2
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+    as_root+=(env DEBIAN_FRONTEND=noninteractive)
+    mkdir -p "$(dirname "$log")"
+    if ! { "${as_root[@]}" apt-get update && "${as_root[@]}" "${install[@]}"; } \
+        </dev/null >"$log" 2>&1; then
+        tail -n 30 "$log" >&2
+        echo "The installation failed; all of its output is in $log." >&2
+        return 1
+    fi
+}

@@ -1,0 +1,54 @@
+# SPDX-License-Identifier: MIT
+"""Putting the processors under a load, and comparing what an item says with the kernel's count."""
+import contextlib
+import os
+import subprocess
+import time
+
+
+@contextlib.contextmanager
+def cpu_load(percent):
+    """Keeps every processor busy for `percent` of the time."""
+    if percent == 0:
+        yield
+        return
+    load = subprocess.Popen(["stress-ng", "--quiet", "--cpu", str(os.cpu_count()),
+                             "--cpu-load", str(percent)])
+    try:
+        yield
+    finally:
+        load.terminate()
+        load.wait()
+
+
+def ticks():
+    """(busy, all) ticks since boot, as in proc(5): waiting for a disk is not being busy, and time
+    as a guest is part of the user time already."""
+    with open("/proc/stat", encoding="ascii") as stat:
+        counters = [int(word) for word in stat.readline().split()[1:9]]
+    idle, iowait = counters[3:5]
+    return sum(counters) - idle - iowait, sum(counters)
+
+
+def compare(item, seconds, interval=1.0):
+    """(what the item said, what /proc/stat says) in percent, averaged over the same time. A figure
+    that is shown from one refresh to the next tells of the interval before it, so the kernel's
+    count is taken one interval earlier."""
+    samples = []
+    time.sleep(2.5 * interval)  # until the figures tell of the present load only
+    end = time.monotonic() + seconds + 2 * interval
+    while (now := time.monotonic()) < end:
+        samples.append((now, float(item.text()[1]), ticks()))
+        time.sleep(0.05)
+
+    changes = [i for i in range(1, len(samples))
+               if samples[i][1] != samples[i - 1][1] and samples[i][0] > samples[0][0] + interval]
+    first, last = (changes[0], changes[-1]) if len(changes) > 5 else (0, len(samples) - 1)
+    shown = sum(samples[i][1] * (samples[i + 1][0] - samples[i][0]) for i in range(first, last))
+    shown /= samples[last][0] - samples[first][0]
+
+    def ticks_at(moment):
+        return min(samples, key=lambda sample: abs(sample[0] - moment))[2]
+
+    before, after = ticks_at(samples[first][0] - interval), ticks_at(samples[last][0] - interval)
+    return shown, 100 * (after[0] - before[0]) / (after[1] - before[1])

@@ -1,0 +1,59 @@
+# SPDX-License-Identifier: MIT
+"""The program under test, named by the environment variable ZEPHRINE, and what it shows on a
+desktop. ZEPHRINE_EVIDENCE names the folder for the logs and pictures of tests that fail."""
+import os
+import pathlib
+import subprocess
+import unittest
+
+from desktop import Desktop, wait_until
+
+PROGRAM = os.environ.get("ZEPHRINE", "")
+
+
+class DesktopTestCase(unittest.TestCase):
+    def desktop(self, **kind):
+        folder = os.environ.get("ZEPHRINE_EVIDENCE")
+        name = self.id().partition(".")[2]
+        return Desktop(evidence=folder and pathlib.Path(folder) / name, **kind)
+
+
+def start(desktop, *arguments):
+    return desktop.start(PROGRAM, *arguments)
+
+
+def windows(desktop, process):
+    """The visible windows of a process: a list of (id, x, y, width, height)."""
+    found = subprocess.run(
+        ["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)],
+        env=desktop.environment, capture_output=True, text=True, timeout=20).stdout.split()
+    return [window for window in map(lambda id: geometry(desktop, id), found) if window]
+
+
+def geometry(desktop, window):
+    """None when the window has gone."""
+    answer = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window],
+                            env=desktop.environment, capture_output=True, text=True, timeout=20)
+    values = dict(line.split("=") for line in answer.stdout.split())
+    if answer.returncode or "X" not in values:
+        return None
+    return (window, *(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT")))
+
+
+def dashboard(desktop, process):
+    """The window of the dashboard, by far the largest one; None while there is none."""
+    return next((w for w in windows(desktop, process) if w[4] > 600), None)
+
+
+def strip(desktop, process):
+    """The window that stands in for the item where no panel takes it; None where there is none."""
+    return next((w for w in windows(desktop, process) if w[4] < 60), None)
+
+
+def wait_for_item(bus, process, timeout=10):
+    return wait_until(lambda: bus.item_of(process.pid), timeout, "the item in the panel")
+
+
+def wait_for_text(item):
+    """The description, once it has a CPU figure: that takes two refreshes."""
+    return wait_until(item.text, 10, "the item's text with a CPU figure")
