@@ -23,6 +23,13 @@ test_packages=(
     locales ccache procps python3 strace
 )
 
+# Checking the macOS back end against declarations: tests/macos/check.
+# shellcheck disable=SC2034
+macos_packages=(
+    clang-14 lld-14 llvm-14 libc++-14-dev libc++abi-14-dev
+    libc6-dev-arm64-cross
+)
+
 # Prints those of the packages "$@" that are not installed. Other systems than Debian's have other
 # names for them: there, everything counts as installed, and what is missing shows in the build.
 missing_packages() {

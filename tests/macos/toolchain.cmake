@@ -31,11 +31,36 @@ set(CMAKE_OSX_DEPLOYMENT_TARGET "" CACHE STRING "")
 
 # clang predefines __nonnull on this target, which glibc's headers use as a name of their own, and
 # does not imply _GNU_SOURCE. __NO_CTYPE keeps glibc's inline functions out of libc++'s way.
-set(flags "-target ${ZEPHRINE_APPLE_ARCH}-apple-macosx13.0 -nostdlibinc -U__nonnull -D_GNU_SOURCE -D__NO_CTYPE -isystem ${declarations} -isystem ${llvm}/include/c++/v1")
+string(CONCAT flags
+  "-target ${ZEPHRINE_APPLE_ARCH}-apple-macosx13.0 -nostdlibinc -U__nonnull -D_GNU_SOURCE "
+  "-D__NO_CTYPE -isystem ${declarations} -isystem ${llvm}/include/c++/v1")
 foreach(folder IN LISTS c_headers)
   string(APPEND flags " -isystem ${folder}")
 endforeach()
 set(CMAKE_CXX_FLAGS_INIT "${flags}")
 set(CMAKE_OBJCXX_FLAGS_INIT "${flags}")
-set(CMAKE_EXE_LINKER_FLAGS_INIT
-  "-fuse-ld=lld -isysroot ${ZEPHRINE_STUBS} -nostdlib -L${ZEPHRINE_STUBS}/usr/lib -F${ZEPHRINE_STUBS}/System/Library/Frameworks -lSystem -lc++ -lobjc")
+
+# The C++ library's stub lists what the libc++ installed here exports: one ABI on both systems.
+set(cxx_stub ${CMAKE_BINARY_DIR}/cxx-stub/libc++.tbd)
+if(NOT EXISTS ${cxx_stub})
+  execute_process(
+    COMMAND ${llvm}/bin/llvm-nm --dynamic --defined-only --format=just-symbols
+            ${llvm}/lib/libc++.so.1 ${llvm}/lib/libc++abi.so.1
+    OUTPUT_VARIABLE names COMMAND_ERROR_IS_FATAL ANY)
+  string(REGEX REPLACE "@+[A-Za-z0-9_.+]*" "" names "${names}")
+  string(REGEX REPLACE "\n[^\n]*:\n|^[^\n]*:\n" "\n" names "${names}")
+  string(STRIP "${names}" names)
+  string(REGEX REPLACE "\n+" "', '_" names "${names}")
+  file(WRITE ${cxx_stub} "--- !tapi-tbd
+tbd-version: 4
+targets: [ arm64-macos, x86_64-macos ]
+install-name: '/usr/lib/libc++.1.dylib'
+exports:
+  - targets: [ arm64-macos, x86_64-macos ]
+    symbols: [ '_${names}' ]
+...
+")
+endif()
+string(CONCAT CMAKE_EXE_LINKER_FLAGS_INIT
+  "-fuse-ld=lld -isysroot ${ZEPHRINE_STUBS} -nostdlib -L${CMAKE_BINARY_DIR}/cxx-stub "
+  "-lSystem -lc++ -lobjc -Wno-unused-command-line-argument")

@@ -63,6 +63,8 @@ typedef NS_ENUM(NSUInteger, NSLineJoinStyle) {
 + (instancetype)imageWithSize:(NSSize)size
                       flipped:(BOOL)flipped
                drawingHandler:(BOOL (^)(NSRect dstRect))handler;
+@property NSSize size;
+@property(nullable, readonly, copy) NSData* TIFFRepresentation;
 - (BOOL)isTemplate;
 - (void)setTemplate:(BOOL)flag;
 @end

@@ -70,6 +70,8 @@ typedef NS_ENUM(NSUInteger, NSLineBreakMode) {
 @property NSTextAlignment alignment;
 @property NSLineBreakMode lineBreakMode __attribute__((availability(macos, introduced=10.10)));
 @property BOOL usesSingleLineMode __attribute__((availability(macos, introduced=10.10)));
+- (BOOL)sendAction:(nullable SEL)action to:(nullable id)target;
+- (void)performClick:(nullable id)sender;
 @end
 @interface NSTextField : NSControl
 + (instancetype)labelWithString:(NSString*)s

@@ -121,6 +121,7 @@ enum : NSStringEncoding { NSASCIIStringEncoding = 1, NSUTF8StringEncoding = 4 };
 @property(readonly) double doubleValue;
 @property(readonly) NSInteger integerValue;
 @property(readonly) BOOL boolValue;
+@property(readonly) const char* objCType;
 @end
 @interface NSError : NSObject
 @property(readonly, copy) NSString* localizedDescription;
@@ -158,6 +159,7 @@ typedef NS_ENUM(NSUInteger, NSNotificationSuspensionBehavior) {
 @interface NSUserDefaults : NSObject
 @property(class, readonly, strong) NSUserDefaults* standardUserDefaults;
 - (nullable id)objectForKey:(NSString*)key;
+- (void)removeObjectForKey:(NSString*)key;
 - (double)doubleForKey:(NSString*)key;
 - (BOOL)boolForKey:(NSString*)key;
 - (void)setObject:(nullable id)v forKey:(NSString*)key;
@@ -176,9 +178,16 @@ FOUNDATION_EXPORT NSRunLoopMode const NSRunLoopCommonModes;
 @property NSTimeInterval tolerance;
 @property(readonly, getter=isValid) BOOL valid;
 @end
+@interface NSData : NSObject
+@property(readonly) NSUInteger length;
+@end
+@interface NSDate : NSObject
++ (instancetype)dateWithTimeIntervalSinceNow:(NSTimeInterval)seconds;
+@end
 @interface NSRunLoop : NSObject
 @property(class, readonly, strong) NSRunLoop* mainRunLoop;
 - (void)addTimer:(NSTimer*)timer forMode:(NSRunLoopMode)mode;
+- (void)runUntilDate:(NSDate*)date;
 @end
 typedef NS_OPTIONS(uint64_t, NSActivityOptions) {
     NSActivityIdleSystemSleepDisabled = (1ULL << 20),

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// A serial queue of utility quality: its jobs run one after another, behind what the user sees.
+#pragma once
+
+#include <atomic>
+
+#include "platform/RunLoop.h"
+
+#import <Foundation/Foundation.h>
+
+namespace zephrine {
+
+class MacBackgroundWorker final : public BackgroundWorker {
+public:
+    MacBackgroundWorker();
+    /// Waits for the job that runs, if any; the others are dropped.
+    ~MacBackgroundWorker() override;
+    MacBackgroundWorker(const MacBackgroundWorker&) = delete;
+    MacBackgroundWorker& operator=(const MacBackgroundWorker&) = delete;
+
+    void perform(std::function<void()> job) override;
+
+private:
+    dispatch_queue_t queue_;
+    std::shared_ptr<std::atomic<bool>> stopped_;  ///< outlives the worker with the last block
+};
+
+}  // namespace zephrine

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// The Mac's side of the seam, each service made at its first use.
+#pragma once
+
+#include <memory>
+
+#include "platform/Platform.h"
+
+namespace zephrine {
+
+class MacPlatform final : public Platform {
+public:
+    MacPlatform();
+    ~MacPlatform() override;
+    MacPlatform(const MacPlatform&) = delete;
+    MacPlatform& operator=(const MacPlatform&) = delete;
+
+    HostCounters& hostCounters() override;
+    GPURegistry& gpuRegistry() override;
+    ProcessTable& processTable() override;
+    PreferenceStore& preferenceStore() override;
+    LoginItem& loginItem() override;
+    Formatting& formatting() override;
+    Application* sharedApplication(std::string& whyNot) override;
+
+private:
+    std::unique_ptr<HostCounters> hostCounters_;
+    std::unique_ptr<GPURegistry> gpuRegistry_;
+    std::unique_ptr<ProcessTable> processTable_;
+    std::unique_ptr<PreferenceStore> preferenceStore_;
+    std::unique_ptr<LoginItem> loginItem_;
+    std::unique_ptr<Formatting> formatting_;
+    std::unique_ptr<Application> application_;  // last: its worker uses the process table
+};
+
+}  // namespace zephrine

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "platform/macos/widgets/MacView.h"
+
+#include "platform/Trap.h"
+#include "platform/macos/MacGeometry.h"
+#include "platform/macos/MacString.h"
+
+namespace zephrine {
+
+MacView::~MacView() {
+    [view_ removeFromSuperview];
+}
+
+void MacView::setFrame(const Rect& frame) {
+    if (!(frame == MacView::frame())) {
+        view_.frame = nsRect(frame);
+    }
+}
+
+Rect MacView::frame() const {
+    return fromNSRect(view_.frame);
+}
+
+void MacView::addSubview(View& child) {
+    [view_ addSubview:nativeView(child)];
+}
+
+void MacView::setAccessibilityLabel(const std::string& label) {
+    // Controls are elements already; a plain view is invisible to a screen reader until it is
+    // declared to be one.
+    if (![view_ isKindOfClass:NSControl.class]) {
+        view_.accessibilityElement = YES;
+    }
+    view_.accessibilityLabel = nsString(label);
+}
+
+void MacView::setAccessibilityValue(const std::string& value) {
+    view_.accessibilityValue = nsString(value);
+}
+
+void MacView::setToolTip(const std::string& text) {
+    NSString* toolTip = nsString(text);
+    if (![view_.toolTip isEqualToString:toolTip]) {
+        view_.toolTip = toolTip;
+    }
+}
+
+NSView* nativeView(View& view) {
+    const auto* ours = dynamic_cast<const MacView*>(&view);
+    require(ours != nullptr);
+    return ours->view();
+}
+
+void setContent(NSView* container, View& view) {
+    NSView* content = nativeView(view);
+    if (content.superview == container) {
+        return;
+    }
+    for (NSView* former in container.subviews) {  // a copy, which may change under the loop
+        [former removeFromSuperview];
+    }
+    [container addSubview:content];
+}
+
+}  // namespace zephrine

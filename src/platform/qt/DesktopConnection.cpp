@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+// X11 before Wayland, also in a Wayland session: only X11 lets a client place its own windows, and
+// the popover has to stand beside the status item.
+#include "platform/qt/DesktopConnection.h"
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <xcb/xcb.h>
+
+#include <QDir>
+#include <QLibraryInfo>
+#include <QString>
+#include <cstring>
+
+#include "platform/linux/FileDescriptor.h"
+
+namespace zephrine {
+
+namespace {
+
+bool hasPlugin(const QString& pattern) {
+    const QDir folder(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+    return !folder.entryList({pattern}, QDir::Files).isEmpty();
+}
+
+bool reachesXDisplay() {
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const bool reached = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return reached;
+}
+
+bool isListening(const QByteArray& socketPath) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (socketPath.isEmpty() ||
+        static_cast<std::size_t>(socketPath.size()) >= sizeof address.sun_path) {
+        return false;
+    }
+    std::memcpy(address.sun_path, socketPath.constData(),
+                static_cast<std::size_t>(socketPath.size()));
+    const FileDescriptor client(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    return connect(client.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+}
+
+QByteArray waylandSocket() {
+    const QByteArray name = qgetenv("WAYLAND_DISPLAY");
+    return name.startsWith('/') ? name : qgetenv("XDG_RUNTIME_DIR") + '/' + name;
+}
+
+/// Whether a session bus can be had without libdbus starting one of its own.
+bool hasSessionBus() {
+    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
+           isListening(qgetenv("XDG_RUNTIME_DIR") + "/bus");
+}
+
+}  // namespace
+
+std::optional<QByteArray> findDesktop(std::string& whyNot) {
+    const QByteArray wanted = qgetenv("QT_QPA_PLATFORM").split(':').first();
+    if (wanted == "offscreen" || wanted == "minimal") {
+        return wanted;
+    }
+    const QByteArray display = qgetenv("DISPLAY");
+    const bool hasWaylandName = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (!display.isEmpty() && reachesXDisplay()) {
+        if (hasPlugin(QStringLiteral("libqxcb*"))) {
+            return QByteArray("xcb");
+        }
+        whyNot = "Qt's plug-in for X11 displays is not installed";
+    } else if (!display.isEmpty()) {
+        whyNot = "cannot connect to the X display \"" + display.toStdString() + "\"";
+    } else if (!hasWaylandName) {
+        whyNot = "no display: neither DISPLAY nor WAYLAND_DISPLAY is set";
+    }
+    if (hasWaylandName && !isListening(waylandSocket())) {
+        whyNot = "cannot connect to the Wayland display \"" +
+                 qgetenv("WAYLAND_DISPLAY").toStdString() + "\"";
+    } else if (hasWaylandName) {
+        if (hasPlugin(QStringLiteral("libqwayland*"))) {
+            return QByteArray("wayland");
+        }
+        whyNot = "Qt's plug-in for Wayland displays is not installed";
+    }
+    return std::nullopt;
+}
+
+void prepareEnvironment(const QByteArray& platform) {
+    qputenv("QT_QPA_PLATFORM", platform);
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    qunsetenv("QT_STYLE_OVERRIDE");
+    qunsetenv("SESSION_MANAGER");
+    // Nothing here is drawn by OpenGL, and there is no text field to type into.
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    qputenv("QT_WAYLAND_DISABLE_HW_INTEGRATION", "1");
+    qputenv("QT_IM_MODULE", "none");
+    if (!hasSessionBus()) {
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    }
+}
+
+}  // namespace zephrine

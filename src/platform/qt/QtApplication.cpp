@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+// Puts the parts together. Qt is set up to look the same on every desktop and to load nothing of
+// the desktop's own: its GTK theme alone costs 14 MB and doubles the time to start.
+#include "platform/qt/QtApplication.h"
+
+#include <QDBusConnection>
+#include <QStyleFactory>
+#include <QToolTip>
+#include <algorithm>
+#include <clocale>
+#include <utility>
+
+#include "platform/qt/Accessibility.h"
+#include "platform/qt/DesktopConnection.h"
+#include "platform/qt/drawing/AppIcon.h"
+#include "platform/qt/drawing/Fonts.h"
+#include "platform/qt/drawing/Palette.h"
+
+namespace zephrine {
+
+namespace {
+
+/// What Qt has to know before its application object exists. Returns its argument, so that a
+/// constructor can do this in time.
+int& prepared(int& argumentCount) {
+    QApplication::setDesktopSettingsAware(false);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    return argumentCount;
+}
+
+void setUpLooks() {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    for (const auto effect :
+         {Qt::UI_General, Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
+          Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox}) {
+        QApplication::setEffectEnabled(effect, false);
+    }
+    QApplication::setFont(makeFont(Font{}));
+    QToolTip::setFont(makeFont(Font{.size = 12}));
+    QApplication::setWindowIcon(builtInIcon(QStringLiteral("AppIcon")));
+}
+
+}  // namespace
+
+std::unique_ptr<QtApplication> QtApplication::connect(const char* program,
+                                                      PreferenceStore& preferences,
+                                                      std::string& whyNot) {
+    const auto platform = findDesktop(whyNot);
+    if (!platform) {
+        return nullptr;
+    }
+    prepareEnvironment(*platform);
+    return std::unique_ptr<QtApplication>(new QtApplication(program, preferences));
+}
+
+QtApplication::QtApplication(const char* program, PreferenceStore& preferences)
+    : program_(program),
+      arguments_{program_.data(), nullptr},  // Qt understands options that are not ours
+      application_(prepared(argumentCount_), arguments_.data()),
+      appearance_(Appearance::aqua),
+      resumeSignal_([this] { sleepWatcher_.check(); }),
+      runLoop_([this] { sleepWatcher_.check(); }),
+      widgets_(appearance_),
+      windows_(appearance_, runLoop_, clickGuard_),
+      statusBar_({clickGuard_, appearance_, preferences}),
+      instance_(QDBusConnection::sessionBus(), [this] { reopened(); }) {
+    // Qt has taken the user's locale over for the whole process; numbers in texts that the program
+    // formats itself keep their decimal point.
+    std::setlocale(LC_NUMERIC, "C");
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setApplicationName(QStringLiteral("zephrine"));
+    QApplication::setDesktopFileName(QStringLiteral("zephrine"));
+    setUpLooks();
+    installAccessibility();
+    signals_.deliverTo([this] { terminate(); });
+    const auto applyPalette = [this] {
+        const QPalette palette = makePalette(appearance_.current());
+        QApplication::setPalette(palette);
+        QToolTip::setPalette(palette);
+    };
+    applyPalette();
+    appearance_.observe(applyPalette);
+    appearance_.follow(QDBusConnection::sessionBus());
+}
+
+void QtApplication::run() {
+    if (!std::exchange(terminated_, false) && instance_.claim()) {
+        runLoop_.performOnMain([this] { launched(); });
+        QApplication::exec();
+        terminated_ = false;
+    }
+}
+
+void QtApplication::launched() {
+    if (delegate_ != nullptr) {
+        delegate_->applicationDidFinishLaunching();
+    }
+}
+
+void QtApplication::terminate() {
+    terminated_ = true;
+    QApplication::exit();
+}
+
+void QtApplication::reopened() {
+    if (delegate_ == nullptr) {
+        return;
+    }
+    const auto windows = QApplication::topLevelWidgets();
+    const bool anyVisible = std::any_of(windows.begin(), windows.end(),
+                                        [](const auto* window) { return window->isVisible(); });
+    delegate_->applicationShouldHandleReopen(anyVisible);
+}
+
+void QtApplication::observeDidWake(std::function<void()> handler) {
+    sleepWatcher_.observe(std::move(handler));
+}
+
+void QtApplication::observeThemeChanged(std::function<void()> handler) {
+    appearance_.observe(std::move(handler));
+}
+
+}  // namespace zephrine

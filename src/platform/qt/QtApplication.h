@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+// The connection to the desktop and the event loop, over QApplication.
+#pragma once
+
+#include <QApplication>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/Application.h"
+#include "platform/PreferenceStore.h"
+#include "platform/qt/ClickGuard.h"
+#include "platform/qt/QtBackgroundWorker.h"
+#include "platform/qt/QtRunLoop.h"
+#include "platform/qt/ResumeSignal.h"
+#include "platform/qt/SingleInstance.h"
+#include "platform/qt/SleepWatcher.h"
+#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/TerminationSignals.h"
+#include "platform/qt/drawing/QtTextMeasure.h"
+#include "platform/qt/statusitem/QtStatusBar.h"
+#include "platform/qt/widgets/QtWidgetFactory.h"
+#include "platform/qt/windows/QtWindowFactory.h"
+
+namespace zephrine {
+
+class QtApplication final : public Application {
+public:
+    /// Null when there is no desktop, with the reason, one line, in `whyNot`. `program` is the
+    /// path that this program was started by; `preferences` outlive the application.
+    static std::unique_ptr<QtApplication> connect(const char* program, PreferenceStore& preferences,
+                                                  std::string& whyNot);
+
+    void setDelegate(ApplicationDelegate& delegate) override { delegate_ = &delegate; }
+    void setAccessoryActivationPolicy() override {}  // every window here keeps out of task bars
+    /// Returns at once when the program runs already, which then is opened again.
+    void run() override;
+    void terminate() override;
+    void activateIgnoringOtherApps() override {}  // each window asks for itself when it opens
+
+    void observeDidWake(std::function<void()> handler) override;
+    void observeThemeChanged(std::function<void()> handler) override;
+
+    RunLoop& runLoop() override { return runLoop_; }
+    BackgroundWorker& backgroundWorker() override { return worker_; }
+    StatusBar& statusBar() override { return statusBar_; }
+    const TextMeasure& textMeasure() override { return textMeasure_; }
+    WidgetFactory& widgets() override { return widgets_; }
+    WindowFactory& windows() override { return windows_; }
+
+    /// For tests: the appearance that everything here goes by.
+    SystemAppearance& appearance() { return appearance_; }
+
+private:
+    QtApplication(const char* program, PreferenceStore& preferences);
+
+    void launched();
+    void reopened();
+
+    TerminationSignals signals_;  // first: they wait in every thread that is made later
+    std::string program_;
+    std::vector<char*> arguments_;
+    int argumentCount_ = 1;
+    QApplication application_;
+    SystemAppearance appearance_;
+    SleepWatcher sleepWatcher_;
+    ResumeSignal resumeSignal_;
+    QtRunLoop runLoop_;
+    ClickGuard clickGuard_;
+    QtTextMeasure textMeasure_;
+    QtWidgetFactory widgets_;
+    QtWindowFactory windows_;
+    QtStatusBar statusBar_;
+    SingleInstance instance_;
+    QtBackgroundWorker worker_;  // last: its job is over before anything else goes away
+    ApplicationDelegate* delegate_ = nullptr;
+    bool terminated_ = false;
+};
+
+}  // namespace zephrine

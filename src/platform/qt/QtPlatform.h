@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// The platform of the Linux desktop: counters and services of the system, windows by Qt. Each is
+// made when it is first asked for.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/Platform.h"
+#include "platform/linux/AutostartLoginItem.h"
+#include "platform/linux/JSONPreferenceStore.h"
+#include "platform/linux/LinuxFormatting.h"
+#include "platform/linux/LinuxGPURegistry.h"
+#include "platform/linux/LinuxHostCounters.h"
+#include "platform/linux/LinuxProcessTable.h"
+#include "platform/qt/QtApplication.h"
+
+namespace zephrine {
+
+class QtPlatform final : public Platform {
+public:
+    /// `program` is the path that this program was started by.
+    explicit QtPlatform(std::string program) : program_(std::move(program)) {}
+
+    HostCounters& hostCounters() override { return made(hostCounters_); }
+    GPURegistry& gpuRegistry() override { return made(gpuRegistry_); }
+    ProcessTable& processTable() override { return made(processTable_); }
+    PreferenceStore& preferenceStore() override { return made(preferences_); }
+    LoginItem& loginItem() override { return made(loginItem_); }
+    Formatting& formatting() override { return made(formatting_); }
+
+    Application* sharedApplication(std::string& whyNot) override;
+
+private:
+    template <typename Service>
+    static Service& made(std::optional<Service>& service) {
+        return service ? *service : service.emplace();
+    }
+
+    std::string program_;
+    std::optional<LinuxHostCounters> hostCounters_;
+    std::optional<LinuxGPURegistry> gpuRegistry_;
+    std::optional<LinuxProcessTable> processTable_;
+    std::optional<JSONPreferenceStore> preferences_;
+    std::optional<AutostartLoginItem> loginItem_;
+    std::optional<LinuxFormatting> formatting_;
+    std::unique_ptr<QtApplication> application_;  // last: it uses the services
+};
+
+}  // namespace zephrine

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// The run loop over Qt's event loop. All timers share one kernel timer: Qt's own coarse timers may
+// fire early, and its precise ones take no tolerance.
+#pragma once
+
+#include <QObject>
+#include <QSocketNotifier>
+#include <functional>
+#include <memory>
+
+#include "platform/RunLoop.h"
+#include "platform/linux/FileDescriptor.h"
+#include "platform/qt/TimerQueue.h"
+
+namespace zephrine {
+
+class QtRunLoop final : public RunLoop {
+public:
+    /// `beforeTimers` runs on the main thread ahead of every batch of timers that fire.
+    explicit QtRunLoop(std::function<void()> beforeTimers = {});
+
+    std::unique_ptr<Timer> scheduleTimer(double interval, double tolerance,
+                                         std::function<void()> action) override;
+    void performOnMain(std::function<void()> work) override;
+
+private:
+    void wake();
+    void arm();
+
+    std::function<void()> beforeTimers_;
+    TimerQueue queue_;
+    FileDescriptor kernelTimer_;
+    QSocketNotifier notifier_;
+    QObject mainThread_;
+};
+
+}  // namespace zephrine

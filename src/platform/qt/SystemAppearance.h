@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// Whether the user wants things light or dark, and how much motion: from the desktop's settings
+// portal (org.freedesktop.portal.Settings), which is asked and listened to without ever waiting.
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+#include <QString>
+#include <QVariant>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "platform/Color.h"
+
+namespace zephrine {
+
+class SystemAppearance final : public QObject {
+    Q_OBJECT
+
+public:
+    /// `fallback` is what counts while the portal has not answered, or states no preference.
+    explicit SystemAppearance(Appearance fallback);
+
+    /// Asks the portal on `bus`, if that is connected, and follows its changes.
+    void follow(QDBusConnection bus);
+
+    [[nodiscard]] Appearance current() const { return preference_.value_or(fallback_); }
+    [[nodiscard]] bool reducesMotion() const { return reducesMotion_; }
+
+    /// `handler` is called after each change between light and dark; never removed.
+    void observe(std::function<void()> handler);
+
+    void setFallback(Appearance fallback);
+    /// Takes one setting as the portal words it; anything that is no such setting is ignored.
+    void apply(const QString& group, const QString& key, const QVariant& value);
+
+private Q_SLOTS:
+    void settingChanged(const QDBusMessage& message);
+
+private:
+    void applyAll(const QDBusMessage& reply);
+    void change(const std::function<void()>& set);
+
+    Appearance fallback_;
+    std::optional<Appearance> preference_;
+    bool reducesMotion_ = false;
+    std::vector<std::function<void()>> handlers_;
+};
+
+}  // namespace zephrine

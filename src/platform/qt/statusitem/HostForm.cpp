@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// The table of panels, as seen on running ones: a wide picture that a panel cannot show becomes a
+// strip seven pixels high or is refused, so "squares" is the answer wherever that was seen.
+#include "platform/qt/statusitem/HostForm.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zephrine {
+
+namespace {
+
+struct KnownHost {
+    std::string_view prefix;
+    HostForm form;
+};
+
+constexpr std::array kKnownHosts{
+    KnownHost{"waybar", HostForm::wideDoubled},
+    KnownHost{"xapp-sn-watcher", HostForm::wideDoubled},  // Cinnamon
+    KnownHost{"notification-ar", HostForm::wideExact},    // MATE: notification-area-applet
+    KnownHost{"panel-", HostForm::squares},               // Xfce: panel-N-systray
+    KnownHost{"xfce4-panel", HostForm::squares},
+    KnownHost{"lxqt-panel", HostForm::squares},
+    KnownHost{"kded", HostForm::squares},  // Plasma's watcher; the version number follows
+    KnownHost{"plasmashell", HostForm::squares},
+    KnownHost{"swaybar", HostForm::squares},
+    KnownHost{"budgie", HostForm::squares},
+    KnownHost{"gnome-shell", HostForm::squares},
+};
+
+}  // namespace
+
+HostForm formOfHost(std::string_view command) {
+    const auto* const known =
+        std::find_if(kKnownHosts.begin(), kKnownHosts.end(),
+                     [&](const KnownHost& host) { return command.starts_with(host.prefix); });
+    return known == kKnownHosts.end() ? HostForm::mixed : known->form;
+}
+
+}  // namespace zephrine

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+// The state machine. A watcher is asked three things in turn: whose process it is (so that the
+// right pictures are ready), to take the item, and whether any panel shows its items.
+#include "platform/qt/statusitem/HostWatcher.h"
+
+#include <utility>
+
+namespace zephrine {
+
+HostWatcher::HostWatcher(HostBus& bus, Delay& delay, std::function<void()> changed)
+    : bus_(bus), delay_(delay), changed_(std::move(changed)) {}
+
+void HostWatcher::start(bool connected) {
+    if (!connected) {
+        answered_ = true;
+        setPresence(Presence::absent);
+        return;
+    }
+    update();
+}
+
+void HostWatcher::watcherOwnerChanged(const QString& owner) {
+    const bool isFirst = !std::exchange(answered_, true);
+    if (owner == owner_ && !isFirst) {
+        return;
+    }
+    owner_ = owner;
+    ++generation_;
+    registered_ = false;
+    hasHost_ = false;
+    if (std::exchange(process_, std::nullopt)) {
+        changed_();
+    }
+    if (!owner.isEmpty()) {
+        bus_.identify(owner, ifCurrent<HostProcess>([this](HostProcess process) {
+                          process_ = std::move(process);
+                          changed_();
+                          registerItem();
+                      }));
+    } else if (isFirst) {
+        delay_.stop();
+        waiting_ = false;
+        setPresence(Presence::absent);
+    }
+    update();
+}
+
+void HostWatcher::hostsChanged() {
+    if (registered_) {
+        askForHost();
+    } else if (!owner_.isEmpty()) {
+        registerItem();
+    }
+}
+
+void HostWatcher::busLost() {
+    watcherOwnerChanged({});
+}
+
+void HostWatcher::registerItem() {
+    bus_.registerItem(owner_, ifCurrent<bool>([this](bool registered) {
+                          registered_ = registered;
+                          if (registered) {
+                              askForHost();
+                          }
+                          update();
+                      }));
+}
+
+void HostWatcher::askForHost() {
+    bus_.askForHost(owner_, ifCurrent<bool>([this](bool hasHost) {
+                        hasHost_ = hasHost;
+                        update();
+                    }));
+}
+
+void HostWatcher::update() {
+    if (registered_ && hasHost_) {
+        delay_.stop();
+        waiting_ = false;
+        setPresence(Presence::present);
+    } else if (presence_ != Presence::absent && !waiting_) {
+        waiting_ = true;
+        delay_.start([this] {
+            waiting_ = false;
+            setPresence(Presence::absent);
+        });
+    }
+}
+
+void HostWatcher::setPresence(Presence presence) {
+    if (std::exchange(presence_, presence) != presence) {
+        changed_();
+    }
+}
+
+template <typename Answer>
+std::function<void(Answer)> HostWatcher::ifCurrent(std::function<void(Answer)> next) {
+    return [this, next = std::move(next), generation = generation_](Answer answer) {
+        if (generation == generation_) {
+            next(std::move(answer));
+        }
+    };
+}
+
+}  // namespace zephrine

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// The two things that are asked about a panel's process.
+#pragma once
+
+#include <sys/types.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zephrine {
+
+/// The command name, at most 15 bytes; empty when it cannot be read.
+[[nodiscard]] std::string commandOf(pid_t pid);
+
+[[nodiscard]] std::optional<pid_t> parentOf(pid_t pid);
+
+/// The parent in the text of /proc/PID/stat. The command name, which stands in parentheses before
+/// it, may hold blanks and parentheses itself.
+[[nodiscard]] std::optional<pid_t> parentInStat(std::string_view stat);
+
+}  // namespace zephrine

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// Makes items.
+#include "platform/qt/statusitem/QtStatusBar.h"
+
+#include <utility>
+
+#include "platform/qt/statusitem/QtStatusItem.h"
+
+namespace zephrine {
+
+QtStatusBar::QtStatusBar(const StatusItemServices& services, QString busAddress,
+                         std::chrono::milliseconds patience)
+    : services_(services), busAddress_(std::move(busAddress)), patience_(patience) {}
+
+std::unique_ptr<StatusItem> QtStatusBar::statusItemWithLength(double length) {
+    return std::make_unique<QtStatusItem>(length, services_, busAddress_, patience_);
+}
+
+}  // namespace zephrine

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// Passes texts and pictures on to where they are seen, and only there.
+#include "platform/qt/statusitem/QtStatusItemButton.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QScreen>
+#include <utility>
+
+#include "platform/qt/drawing/PlainText.h"
+#include "platform/qt/statusitem/BusText.h"
+#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/statusitem/forms/Forms.h"
+
+namespace zephrine {
+
+namespace {
+
+/// Absent where nobody tells it: a Wayland session hides the pointer from X11 programs, too.
+std::optional<QRect> pointerRect() {
+    if (x11Connection() == nullptr || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
+        return std::nullopt;
+    }
+    const QPoint pointer = QCursor::pos();
+    if (QGuiApplication::screenAt(pointer) == nullptr) {
+        return std::nullopt;
+    }
+    return QRect(pointer, QSize(1, 1));
+}
+
+}  // namespace
+
+QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
+                                       const StatusItemServices& services)
+    : services_(services),
+      item_(bus, [this] { panelClicked(); }),
+      menu_(bus, [this] { panelClicked(); }),
+      strip_(services.preferences),
+      probe_(x11Connection()),
+      panelAppearance_(probe_, [] { return std::chrono::steady_clock::now(); }),
+      told_(services.systemAppearance.current()),
+      drawnFor_(told_) {
+    QObject::connect(&strip_, &QPushButton::clicked, &later_, [this] { clicked(); });
+    strip_.setAccessibleDescription("Zephrine");
+}
+
+std::optional<Appearance> QtStatusItemButton::effectiveAppearance() const {
+    const auto panel = needsStrip_ ? std::nullopt : panelAppearance_.current();
+    told_ = panel.value_or(services_.systemAppearance.current());
+    return told_;
+}
+
+void QtStatusItemButton::setToolTip(const std::string& text) {
+    if (text == toolTip_) {
+        return;
+    }
+    toolTip_ = text;
+    const QString plain = withoutMarkup(fromUTF8(text));
+    item_.setToolTip(plain);
+    menu_.setFigures(plain);
+    strip_.setToolTip(shownLiterally(fromUTF8(text)));
+}
+
+void QtStatusItemButton::setAccessibilityLabel(const std::string& text) {
+    if (text == label_) {
+        return;
+    }
+    label_ = text;
+    item_.setAccessibleText(withoutMarkup(fromUTF8(text)));
+    strip_.setAccessibleName(fromUTF8(text));
+}
+
+void QtStatusItemButton::setImage(StatusItemImage image) {
+    image_ = std::move(image);
+    drawnFor_ = told_;
+    show();
+}
+
+void QtStatusItemButton::setAction(std::function<void()> action) {
+    action_ = std::move(action);
+}
+
+std::optional<QRect> QtStatusItemButton::anchorRect() const {
+    return strip_.isVisible() ? std::optional(strip_.geometry()) : lastClick_;
+}
+
+void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {
+    host_ = watcher.process();
+    needsStrip_ = watcher.presence() == HostWatcher::Presence::absent;
+    panelAppearance_.setHost(host_);
+    show();
+}
+
+void QtStatusItemButton::panelClicked() {
+    if (clickIsQueued_) {
+        return;
+    }
+    clickIsQueued_ = true;
+    lastClick_ = pointerRect();
+    // Later, because the bus connection's thread waits until the panel's call is through.
+    QMetaObject::invokeMethod(
+        &later_,
+        [this] {
+            clickIsQueued_ = false;
+            clicked();
+        },
+        Qt::QueuedConnection);
+}
+
+void QtStatusItemButton::clicked() {
+    // A copy: the action may set another one.
+    if (const auto action = action_; action && !services_.clickGuard.swallowsClick()) {
+        action();
+    }
+}
+
+void QtStatusItemButton::show() {
+    if (host_) {
+        item_.setPixmaps(pixmapsForHost(formOfHost(host_->command), image_, drawnFor_));
+    }
+    const bool shown = needsStrip_ && image_.wide.drawingHandler;
+    if (shown) {
+        strip_.setPicture(image_.wide, drawnFor_);
+    }
+    strip_.setShown(shown);
+}
+
+}  // namespace zephrine

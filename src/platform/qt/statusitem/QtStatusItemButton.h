@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+// What is seen and clicked of the item: in a panel, or in our own strip while there is none.
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QRect>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "platform/StatusBar.h"
+#include "platform/qt/ClickGuard.h"
+#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/statusitem/HostWatcher.h"
+#include "platform/qt/statusitem/ItemAnchor.h"
+#include "platform/qt/statusitem/NotifierItem.h"
+#include "platform/qt/statusitem/NotifierMenu.h"
+#include "platform/qt/statusitem/PanelAppearance.h"
+#include "platform/qt/statusitem/StatusStrip.h"
+#include "platform/qt/statusitem/X11PanelProbe.h"
+
+namespace zephrine {
+
+/// What the status item is built on; all of it outlives the item.
+struct StatusItemServices {
+    const ClickGuard& clickGuard;
+    const SystemAppearance& systemAppearance;
+    PreferenceStore& preferences;
+};
+
+class QtStatusItemButton final : public StatusItemButton, public ItemAnchor {
+public:
+    QtStatusItemButton(const QDBusConnection& bus, const StatusItemServices& services);
+
+    [[nodiscard]] std::optional<Appearance> effectiveAppearance() const override;
+    void setToolTip(const std::string& text) override;
+    void setAccessibilityLabel(const std::string& text) override;
+    void setImage(StatusItemImage image) override;
+    void setAction(std::function<void()> action) override;
+
+    [[nodiscard]] std::optional<QRect> anchorRect() const override;
+
+    void hostChanged(const HostWatcher& watcher);
+    [[nodiscard]] StatusStrip& strip() { return strip_; }
+
+private:
+    void panelClicked();
+    void clicked();
+    void show();
+
+    StatusItemServices services_;
+    NotifierItem item_;
+    NotifierMenu menu_;
+    StatusStrip strip_;
+    X11PanelProbe probe_;
+    mutable PanelAppearance panelAppearance_;
+    QObject later_;  // its queued calls die with it
+
+    std::function<void()> action_;
+    StatusItemImage image_;
+    std::string toolTip_;
+    std::string label_;
+    /// The appearance that the caller was told last, and drew the image for.
+    mutable Appearance told_;
+    Appearance drawnFor_;
+    std::optional<HostProcess> host_;
+    bool needsStrip_ = false;
+    bool clickIsQueued_ = false;
+    std::optional<QRect> lastClick_;
+};
+
+}  // namespace zephrine

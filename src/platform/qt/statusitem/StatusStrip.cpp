@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// The strip's window, its painting, and dragging it about.
+#include "platform/qt/statusitem/StatusStrip.h"
+
+#include <QApplication>
+#include <QBitmap>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/qt/drawing/Colors.h"
+#include "platform/qt/drawing/RenderImage.h"
+#include "platform/qt/statusitem/AllDesktops.h"
+#include "platform/qt/statusitem/StripPlace.h"
+#include "platform/qt/windows/WorkArea.h"
+#include "platform/qt/windows/X11Windows.h"
+
+namespace zephrine {
+
+namespace {
+
+constexpr int kPadding = 2;  // above and below the picture
+constexpr double kRadius = 8;
+constexpr QPoint kFirstInset{8, 4};  // from the corner of the work area, where nobody moved it
+
+/// The primary one first.
+QList<QRect> screenAreas(QRect (*area)(const QScreen&)) {
+    const QScreen* const primary = QGuiApplication::primaryScreen();
+    QList<QRect> areas{area(*primary)};
+    for (const QScreen* const screen : QGuiApplication::screens()) {
+        if (screen != primary) {
+            areas.append(area(*screen));
+        }
+    }
+    return areas;
+}
+
+QRect wholeArea(const QScreen& screen) {
+    return screen.geometry();
+}
+
+}  // namespace
+
+StatusStrip::StatusStrip(PreferenceStore& preferences) : preferences_(preferences) {
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                   Qt::WindowDoesNotAcceptFocus);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::NoFocus);
+    setWindowTitle("Zephrine");
+    for (QScreen* const screen : QGuiApplication::screens()) {
+        follow(screen);
+    }
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, &StatusStrip::follow);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, &StatusStrip::takePlace);
+    connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &StatusStrip::takePlace);
+}
+
+void StatusStrip::setPlaceName(const std::string& name) {
+    placeName_ = name;
+    takePlace();
+}
+
+void StatusStrip::setLength(double length) {
+    length_ = length;
+    fitSize();
+}
+
+void StatusStrip::setPicture(const Image& picture, Appearance appearance) {
+    QImage pixels = renderImage(picture, devicePixelRatioF(), appearance);
+    if (pixels == picture_ && appearance == appearance_) {
+        return;
+    }
+    picture_ = std::move(pixels);
+    pictureSize_ = picture.size;
+    appearance_ = appearance;
+    fitSize();
+    update();
+}
+
+void StatusStrip::setShown(bool shown) {
+    if (shown == isVisible()) {
+        return;
+    }
+    if (shown) {
+        takePlace();
+        winId();  // makes the window, which window managers look at when it appears
+        keepOutOfTaskBar(*windowHandle());
+        showOnAllDesktops(*windowHandle());
+        show();
+    } else {
+        hide();
+        destroy();  // the window's place is off in Qt when it is shown a second time
+    }
+}
+
+void StatusStrip::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor border = resolve(Color::quaternaryLabelColor, appearance_);
+    painter.fillRect(rect(), border);  // what the shape leaves of the corners
+    painter.setPen(border);
+    painter.setBrush(windowBackground(appearance_));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    painter.drawImage(QPointF((width() - pictureSize_.width) / 2, kPadding), picture_);
+}
+
+void StatusStrip::resizeEvent(QResizeEvent* event) {
+    QPushButton::resizeEvent(event);
+    // A shaped window, since a translucent one has black corners where nothing composes windows.
+    QBitmap shape(size());
+    shape.clear();
+    QPainter painter(&shape);
+    painter.setBrush(Qt::color1);
+    painter.setPen(Qt::color1);
+    painter.drawRoundedRect(rect().adjusted(0, 0, -1, -1), kRadius, kRadius);
+    painter.end();
+    setMask(shape);
+}
+
+void StatusStrip::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        grip_ = Grip{event->globalPosition().toPoint(), pos()};
+        isDragged_ = false;
+    }
+}
+
+void StatusStrip::mouseMoveEvent(QMouseEvent* event) {
+    if (!grip_) {
+        return;
+    }
+    const QPoint moved = event->globalPosition().toPoint() - grip_->pointer;
+    isDragged_ = isDragged_ || moved.manhattanLength() >= QApplication::startDragDistance();
+    if (isDragged_) {
+        move(grip_->window + moved);
+    }
+}
+
+void StatusStrip::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !grip_) {
+        return;
+    }
+    grip_.reset();
+    if (isDragged_) {
+        savePlace(preferences_, placeName_, placeOf(geometry(), screenAreas(wholeArea)));
+        takePlace();
+    } else if (rect().contains(event->position().toPoint())) {
+        click();
+    }
+}
+
+void StatusStrip::follow(QScreen* screen) {
+    connect(screen, &QScreen::geometryChanged, this, &StatusStrip::takePlace);
+    connect(screen, &QScreen::availableGeometryChanged, this, &StatusStrip::takePlace);
+}
+
+void StatusStrip::takePlace() {
+    if (grip_ || QGuiApplication::primaryScreen() == nullptr) {
+        return;
+    }
+    if (const auto saved = savedPlace(preferences_, placeName_)) {
+        move(positionOf(*saved, size(), screenAreas(wholeArea)));
+    } else {
+        move(positionOf({0, StripPlace::Corner::topRight, kFirstInset}, size(),
+                        screenAreas(workAreaOf)));
+    }
+}
+
+void StatusStrip::fitSize() {
+    const QSize fitting(static_cast<int>(std::ceil(std::max(length_, pictureSize_.width))),
+                        static_cast<int>(std::ceil(pictureSize_.height)) + 2 * kPadding);
+    if (fitting != size()) {
+        setFixedSize(fitting);
+        takePlace();
+    }
+}
+
+}  // namespace zephrine

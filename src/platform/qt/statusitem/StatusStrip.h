@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// The item where no panel shows it: a small window of our own above all others, at first at the top
+// right of the primary screen, later where the user has dragged it to.
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QPoint>
+#include <QPushButton>
+#include <QRect>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "platform/Drawing.h"
+#include "platform/PreferenceStore.h"
+
+class QScreen;
+
+namespace zephrine {
+
+/// A button, and no plain widget, so that a screen reader finds one that can be pressed.
+class StatusStrip final : public QPushButton {
+public:
+    explicit StatusStrip(PreferenceStore& preferences);
+
+    /// The place is kept under this name.
+    void setPlaceName(const std::string& name);
+    /// Points from the left end to the right end.
+    void setLength(double length);
+    /// Paints only if anything changed. The background fits `appearance`.
+    void setPicture(const Image& picture, Appearance appearance);
+    void setShown(bool shown);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    struct Grip {
+        QPoint pointer;
+        QPoint window;
+    };
+
+    void follow(QScreen* screen);
+    void takePlace();
+    void fitSize();
+
+    PreferenceStore& preferences_;
+    std::string placeName_;
+    double length_ = 0;
+    Size pictureSize_;
+    QImage picture_;
+    Appearance appearance_ = Appearance::aqua;
+    std::optional<Grip> grip_;
+    bool isDragged_ = false;
+};
+
+}  // namespace zephrine

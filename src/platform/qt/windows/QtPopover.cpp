@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+// Opening and closing.
+#include "platform/qt/windows/QtPopover.h"
+
+#include <QCursor>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "platform/qt/statusitem/ItemAnchor.h"
+#include "platform/qt/windows/PopoverPlacement.h"
+#include "platform/qt/windows/WorkArea.h"
+
+namespace zephrine {
+
+QtPopover::QtPopover(const SystemAppearance& appearance, RunLoop& runLoop, ClickGuard& clickGuard)
+    : runLoop_(runLoop),
+      clickGuard_(clickGuard),
+      frame_(appearance, {.closed = [this] { closed(); },
+                          .closedByItself = [this] { clickGuard_.noteAutomaticHide(); }}) {}
+
+void QtPopover::setContentSize(Size size) {
+    frame_.setContentSize(
+        {static_cast<int>(std::lround(size.width)), static_cast<int>(std::lround(size.height))});
+}
+
+void QtPopover::setDidCloseHandler(std::function<void()> handler) {
+    didClose_ = std::move(handler);
+}
+
+void QtPopover::showRelativeTo(StatusItemButton& button) {
+    if (isShown()) {
+        return;
+    }
+    const auto* anchor = dynamic_cast<const ItemAnchor*>(&button);
+    const std::optional<QRect> item = anchor != nullptr ? anchor->anchorRect() : std::nullopt;
+    const QScreen& screen = screenAt(item ? item->center() : QCursor::pos());
+    frame_.open(placePopover(item, workAreaOf(screen), frame_.panelSize()));
+    // The mouse is held from the first moment at which nobody else holds it. A full interval of
+    // tolerance lets the timer fire with others.
+    watch_ = runLoop_.scheduleTimer(1, 1, [this] { frame_.holdMouse(); });
+}
+
+void QtPopover::closed() {
+    watch_.reset();
+    if (didClose_) {
+        const auto handler = didClose_;
+        handler();
+    }
+}
+
+}  // namespace zephrine

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// The popover of the seam: puts its window beside the status item and keeps watch over it.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/RunLoop.h"
+#include "platform/Windows.h"
+#include "platform/qt/ClickGuard.h"
+#include "platform/qt/windows/PopoverFrame.h"
+
+namespace zephrine {
+
+class QtPopover final : public Popover {
+public:
+    /// All three outlive the popover.
+    QtPopover(const SystemAppearance& appearance, RunLoop& runLoop, ClickGuard& clickGuard);
+
+    void setContentView(View& view) override { frame_.content().setContent(view); }
+    void setContentSize(Size size) override;
+    void setDidCloseHandler(std::function<void()> handler) override;
+    [[nodiscard]] bool isShown() const override { return frame_.isVisible(); }
+    void showRelativeTo(StatusItemButton& button) override;
+    void performClose() override { frame_.hide(); }
+
+private:
+    void closed();
+
+    RunLoop& runLoop_;
+    ClickGuard& clickGuard_;
+    std::function<void()> didClose_;
+    std::unique_ptr<Timer> watch_;
+    PopoverFrame frame_;
+};
+
+}  // namespace zephrine

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// Extended Window Manager Hints, https://specifications.freedesktop.org/wm-spec/latest/. What
+// other clients have written there is checked before it is believed.
+#include "platform/qt/windows/X11Windows.h"
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <span>
+#include <string_view>
+
+#include "platform/qt/statusitem/X11.h"
+
+namespace zephrine {
+
+namespace {
+
+xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
+    return internAtoms(connection, std::array{name})[0];
+}
+
+/// The first screen: the only one that desktops have used since monitors share one.
+const xcb_screen_t& screenOf(xcb_connection_t* connection) {
+    return *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+}
+
+xcb_get_property_cookie_t ask(xcb_connection_t* connection, xcb_window_t window,
+                              xcb_atom_t property, xcb_atom_t type, std::uint32_t words) {
+    return xcb_get_property(connection, 0, window, property, type, 0, words);
+}
+
+/// The property's 32-bit words; empty when it has none.
+std::vector<std::uint32_t> answer(xcb_connection_t* connection, xcb_get_property_cookie_t cookie) {
+    const auto reply = own(xcb_get_property_reply(connection, cookie, nullptr));
+    if (!reply || reply->format != 32) {
+        return {};
+    }
+    const auto bytes = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
+    std::vector<std::uint32_t> words(bytes / sizeof(std::uint32_t));
+    std::memcpy(words.data(), xcb_get_property_value(reply.get()),
+                words.size() * sizeof(std::uint32_t));
+    return words;
+}
+
+std::optional<Strut> strutFrom(std::span<const std::uint32_t> words, QSize root) {
+    if (words.size() != 12) {
+        return std::nullopt;
+    }
+    std::array<int, 12> numbers{};
+    for (std::size_t index = 0; index < numbers.size(); ++index) {
+        const auto limit = static_cast<std::uint32_t>(std::max(root.width(), root.height()));
+        if (words[index] > limit) {
+            return std::nullopt;
+        }
+        numbers[index] = static_cast<int>(words[index]);
+    }
+    const auto [left, right, top, bottom, leftStart, leftEnd, rightStart, rightEnd, topStart,
+                topEnd, bottomStart, bottomEnd] = numbers;
+    return Strut{left,       right,    top,      bottom, leftStart,   leftEnd,
+                 rightStart, rightEnd, topStart, topEnd, bottomStart, bottomEnd};
+}
+
+void sendToRoot(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t type,
+                const std::array<std::uint32_t, 5>& data) {
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = type;
+    std::memcpy(event.data.data32, data.data(), sizeof event.data.data32);
+    std::array<char, sizeof event> bytes{};
+    std::memcpy(bytes.data(), &event, sizeof event);
+    xcb_send_event(connection, 0, screenOf(connection).root,
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   bytes.data());
+    xcb_flush(connection);
+}
+
+}  // namespace
+
+bool isComposited() {
+    xcb_connection_t* connection = x11Connection();
+    if (connection == nullptr) {
+        return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    }
+    const auto cookie = xcb_get_selection_owner(connection, atom(connection, "_NET_WM_CM_S0"));
+    const auto reply = own(xcb_get_selection_owner_reply(connection, cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+std::optional<X11Panels> x11Panels() {
+    xcb_connection_t* connection = x11Connection();
+    if (connection == nullptr) {
+        return std::nullopt;
+    }
+    constexpr std::uint32_t mostWindows = 4096;
+    const xcb_screen_t& screen = screenOf(connection);
+    X11Panels panels{{screen.width_in_pixels, screen.height_in_pixels}, {}};
+    const auto windows =
+        answer(connection, ask(connection, screen.root, atom(connection, "_NET_CLIENT_LIST"),
+                               XCB_ATOM_WINDOW, mostWindows));
+    const xcb_atom_t partial = atom(connection, "_NET_WM_STRUT_PARTIAL");
+    std::vector<xcb_get_property_cookie_t> cookies;  // all asked before the first is answered
+    cookies.reserve(windows.size());
+    for (const xcb_window_t window : windows) {
+        cookies.push_back(ask(connection, window, partial, XCB_ATOM_CARDINAL, 12));
+    }
+    for (const auto cookie : cookies) {
+        if (const auto strut = strutFrom(answer(connection, cookie), panels.root)) {
+            panels.struts.push_back(*strut);
+        }
+    }
+    return panels;
+}
+
+void activateAsPager(QWindow& window) {
+    if (xcb_connection_t* connection = x11Connection()) {
+        constexpr std::uint32_t fromPager = 2;
+        sendToRoot(connection, static_cast<xcb_window_t>(window.winId()),
+                   atom(connection, "_NET_ACTIVE_WINDOW"),
+                   {fromPager, XCB_CURRENT_TIME, XCB_WINDOW_NONE, 0, 0});
+    }
+}
+
+void keepOutOfTaskBar(QWindow& window) {
+    if (xcb_connection_t* connection = x11Connection()) {
+        const std::array<xcb_atom_t, 2> states{atom(connection, "_NET_WM_STATE_SKIP_TASKBAR"),
+                                               atom(connection, "_NET_WM_STATE_SKIP_PAGER")};
+        xcb_change_property(
+            connection, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window.winId()),
+            atom(connection, "_NET_WM_STATE"), XCB_ATOM_ATOM, 32, states.size(), states.data());
+    }
+}
+
+}  // namespace zephrine

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// What window managers and compositors on X11 tell and take, and Qt has no call for. Everywhere
+// else these do nothing, or do not know.
+#pragma once
+
+#include <QSize>
+#include <QWindow>
+#include <optional>
+#include <vector>
+
+#include "platform/qt/windows/Strut.h"
+
+namespace zephrine {
+
+/// Whether windows may be translucent: on X11, whether a compositing manager runs.
+bool isComposited();
+
+struct X11Panels {
+    QSize root;
+    std::vector<Strut> struts;
+};
+
+/// The panels of all screens; absent when the display is not X11.
+std::optional<X11Panels> x11Panels();
+
+/// Asks the window manager for the keyboard as a pager does: such a request is granted also when
+/// the click that led to it went to another program, as clicks on a panel do.
+void activateAsPager(QWindow& window);
+
+/// Keeps `window`, not shown yet, out of task bars and pagers.
+void keepOutOfTaskBar(QWindow& window);
+
+}  // namespace zephrine

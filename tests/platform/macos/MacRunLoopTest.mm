@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "platform/macos/MacRunLoop.h"
+
+#include <gtest/gtest.h>
+
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include "contract/RunLoopContract.h"
+#include "platform/macos/MacBackgroundWorker.h"
+
+#import <Foundation/Foundation.h>
+
+namespace zephrine {
+namespace {
+
+void passTime(double seconds) {
+    [NSRunLoop.mainRunLoop runUntilDate:[NSDate dateWithTimeIntervalSinceNow:seconds + 0.05]];
+}
+
+struct MacRunLoopHarness {
+    MacRunLoop& loop() { return runLoop; }
+    void pass(double seconds) { passTime(seconds); }
+
+    MacRunLoop runLoop;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Mac, RunLoopContract, MacRunLoopHarness);
+
+TEST(MacBackgroundWorker, RunsJobsInOrderOffTheMainThread) {
+    std::vector<int> order;
+    std::thread::id ranOn;
+    {
+        MacBackgroundWorker worker;
+        std::mutex finished;
+        finished.lock();
+        worker.perform([&] {
+            order.push_back(1);
+            ranOn = std::this_thread::get_id();
+        });
+        worker.perform([&] {
+            order.push_back(2);
+            finished.unlock();
+        });
+        finished.lock();
+        finished.unlock();
+    }
+    EXPECT_EQ(order, (std::vector<int>{1, 2}));
+    EXPECT_NE(ranOn, std::this_thread::get_id());
+}
+
+TEST(MacBackgroundWorker, DropsWhatIsStillQueuedWhenItIsDestroyed) {
+    std::mutex started;
+    std::mutex mayEnd;
+    bool ranLate = false;
+    started.lock();
+    mayEnd.lock();
+    auto worker = std::make_unique<MacBackgroundWorker>();
+    worker->perform([&] {
+        started.unlock();
+        mayEnd.lock();
+    });
+    worker->perform([&] { ranLate = true; });
+    started.lock();
+    std::thread releaser([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        mayEnd.unlock();
+    });
+    worker.reset();
+    releaser.join();
+    EXPECT_FALSE(ranLate);
+}
+
+}  // namespace
+}  // namespace zephrine

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt/QtRunLoop.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "contract/RunLoopContract.h"
+#include "platform/qt/statusitem/PrivateBus.h"
+
+namespace zephrine {
+namespace {
+
+struct QtRunLoopHarness {
+    QtRunLoop& loop() { return runLoop; }
+    void pass(double seconds) {
+        const QDeadlineTimer enough(static_cast<qint64>(seconds * 1000) + 20);
+        EXPECT_TRUE(waitUntil([&] { return enough.hasExpired(); }));
+    }
+
+    QtRunLoop runLoop;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopContract, QtRunLoopHarness);
+
+TEST(QtRunLoop, RunsItsCheckAheadOfEveryTimer) {
+    std::vector<std::string> log;
+    QtRunLoop loop([&] { log.emplace_back("check"); });
+    const auto timer = loop.scheduleTimer(0.01, 0, [&] { log.emplace_back("timer"); });
+    ASSERT_TRUE(waitUntil([&] { return log.size() >= 2; }));
+    EXPECT_EQ(log[0], "check");
+    EXPECT_EQ(log[1], "timer");
+}
+
+TEST(QtRunLoop, KeepsFiringInsideALoopThatAnActionRuns) {
+    QtRunLoop loop;
+    int inner = 0;
+    bool done = false;
+    const auto other = loop.scheduleTimer(0.005, 0, [&] { ++inner; });
+    const auto timer = loop.scheduleTimer(0.01, 0, [&] {
+        const int before = inner;
+        done = done || waitUntil([&] { return inner > before + 1; });
+    });
+    EXPECT_TRUE(waitUntil([&] { return done; }));
+}
+
+TEST(QtRunLoop, TakesAnIntervalThatIsNoNumberForAShortOne) {
+    QtRunLoop loop;
+    int count = 0;
+    const auto timer = loop.scheduleTimer(std::nan(""), std::nan(""), [&] { ++count; });
+    EXPECT_TRUE(waitUntil([&] { return count > 0; }));
+}
+
+}  // namespace
+}  // namespace zephrine
