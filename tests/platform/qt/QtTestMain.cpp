@@ -19,6 +19,7 @@ zephrine::QtApplication& zephrine::testApplication() {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");  // the user's own is no business of tests
     zephrine::FakePreferenceStore preferences;
     std::string whyNot;

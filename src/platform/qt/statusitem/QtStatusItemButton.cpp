@@ -11,6 +11,7 @@
 #include "platform/qt/statusitem/BusText.h"
 #include "platform/qt/statusitem/X11.h"
 #include "platform/qt/statusitem/forms/Forms.h"
+#include "platform/qt/windows/X11Windows.h"
 
 namespace zephrine {
 
@@ -81,7 +82,7 @@ void QtStatusItemButton::setAction(std::function<void()> action) {
 }
 
 std::optional<QRect> QtStatusItemButton::anchorRect() const {
-    return strip_.isVisible() ? std::optional(strip_.geometry()) : lastClick_;
+    return strip_.isVisible() ? std::optional(placeOnScreen(strip_)) : lastClick_;
 }
 
 void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {

@@ -122,7 +122,7 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
 
 void StatusStrip::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        grip_ = Grip{event->globalPosition().toPoint(), pos()};
+        grip_ = Grip{event->globalPosition().toPoint(), placeOnScreen(*this).topLeft()};
         isDragged_ = false;
     }
 }

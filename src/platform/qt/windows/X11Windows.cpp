@@ -4,6 +4,7 @@
 #include "platform/qt/windows/X11Windows.h"
 
 #include <QGuiApplication>
+#include <QScreen>
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -62,6 +63,19 @@ std::optional<Strut> strutFrom(std::span<const std::uint32_t> words, QSize root)
                  rightStart, rightEnd, topStart, topEnd, bottomStart, bottomEnd};
 }
 
+/// Qt leaves the corner of a screen where the X server has it, and scales distances from there.
+QPoint logicalPlace(QPoint onRoot) {
+    const auto screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens) {
+        const QPoint corner = screen->geometry().topLeft();
+        const double scale = screen->devicePixelRatio();
+        if (QRect(corner, screen->geometry().size() * scale).contains(onRoot)) {
+            return corner + (onRoot - corner) / scale;
+        }
+    }
+    return onRoot;
+}
+
 void sendToRoot(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t type,
                 const std::array<std::uint32_t, 5>& data) {
     xcb_client_message_event_t event{};
@@ -113,6 +127,19 @@ std::optional<X11Panels> x11Panels() {
         }
     }
     return panels;
+}
+
+QRect placeOnScreen(const QWidget& window) {
+    xcb_connection_t* connection = x11Connection();
+    const QWindow* handle = window.windowHandle();
+    if (connection == nullptr || handle == nullptr || handle->handle() == nullptr) {
+        return window.geometry();
+    }
+    const auto cookie = xcb_translate_coordinates(
+        connection, static_cast<xcb_window_t>(handle->winId()), screenOf(connection).root, 0, 0);
+    const auto reply = own(xcb_translate_coordinates_reply(connection, cookie, nullptr));
+    return reply ? QRect(logicalPlace({reply->dst_x, reply->dst_y}), window.size())
+                 : window.geometry();
 }
 
 void activateAsPager(QWindow& window) {

@@ -3,7 +3,9 @@
 // else these do nothing, or do not know.
 #pragma once
 
+#include <QRect>
 #include <QSize>
+#include <QWidget>
 #include <QWindow>
 #include <optional>
 #include <vector>
@@ -22,6 +24,10 @@ struct X11Panels {
 
 /// The panels of all screens; absent when the display is not X11.
 std::optional<X11Panels> x11Panels();
+
+/// Where `window` is, in global logical coordinates: from the X server, where there is one. Qt is
+/// wrong about it when a window manager moves its frame only after Qt has asked (Openbox does).
+QRect placeOnScreen(const QWidget& window);
 
 /// Asks the window manager for the keyboard as a pager does: such a request is granted also when
 /// the click that led to it went to another program, as clicks on a panel do.
