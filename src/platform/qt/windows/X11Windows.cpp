@@ -39,10 +39,9 @@ std::vector<std::uint32_t> answer(xcb_connection_t* connection, xcb_get_property
         return {};
     }
     const auto bytes = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
-    std::vector<std::uint32_t> words(bytes / sizeof(std::uint32_t));
-    std::memcpy(words.data(), xcb_get_property_value(reply.get()),
-                words.size() * sizeof(std::uint32_t));
-    return words;
+    const auto* const first =
+        static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {first, first + bytes / sizeof(std::uint32_t)};
 }
 
 std::optional<Strut> strutFrom(std::span<const std::uint32_t> words, QSize root) {
