@@ -22,9 +22,7 @@ constexpr QMargins bezelInsets{6, 2, 7, 2};
 class ButtonWidget final : public QPushButton {
 public:
     ButtonWidget(const SystemAppearance& appearance, const QString& title)
-        : QPushButton(mnemonicFree(title)),
-          appearance_(appearance),
-          title_(title) {
+        : QPushButton(mnemonicFree(title)), appearance_(appearance), title_(title) {
         setAttribute(Qt::WA_Hover);
     }
 

@@ -22,9 +22,7 @@ constexpr QMargins barInsets{1, 0, 1, 0};
 class SegmentWidget final : public QRadioButton {
 public:
     SegmentWidget(const SystemAppearance& appearance, const QString& title, QWidget* bar)
-        : QRadioButton(mnemonicFree(title), bar),
-          appearance_(appearance),
-          title_(title) {
+        : QRadioButton(mnemonicFree(title), bar), appearance_(appearance), title_(title) {
         setAttribute(Qt::WA_Hover);
     }
 
