@@ -10,7 +10,7 @@
 #include <csignal>
 #include <vector>
 
-#include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/processes/LinuxProcessTable.h"
 #include "processes/ProcessSnapshot.h"
 
 namespace zephrine {

@@ -3,8 +3,8 @@
 // and the pictures that are drawn only when a text has changed.
 #include <benchmark/benchmark.h>
 
-#include "platform/linux/LinuxGPURegistry.h"
-#include "platform/linux/LinuxHostCounters.h"
+#include "platform/linux/counters/LinuxHostCounters.h"
+#include "platform/linux/gpu/LinuxGPURegistry.h"
 #include "platform/qt/drawing/QtTextMeasure.h"
 #include "platform/qt/drawing/RenderImage.h"
 #include "sampling/History.h"

@@ -3,8 +3,8 @@
 // not be read is reported as an error: it would be cheap for the wrong reason.
 #include <benchmark/benchmark.h>
 
-#include "platform/linux/LinuxGPURegistry.h"
-#include "platform/linux/LinuxHostCounters.h"
+#include "platform/linux/counters/LinuxHostCounters.h"
+#include "platform/linux/gpu/LinuxGPURegistry.h"
 
 namespace zephrine {
 namespace {

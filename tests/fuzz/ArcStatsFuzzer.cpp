@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "platform/Trap.h"
-#include "platform/linux/ArcStats.h"
+#include "platform/linux/counters/ArcStats.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
     const std::string_view text(data, size);

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "platform/Trap.h"
-#include "platform/linux/AutostartStatus.h"
-#include "platform/linux/DesktopExec.h"
+#include "platform/linux/login/AutostartStatus.h"
+#include "platform/linux/login/DesktopExec.h"
 
 using namespace zephrine;
 

@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "platform/Trap.h"
-#include "platform/linux/PressureLevel.h"
-#include "platform/linux/VMStatistics.h"
+#include "platform/linux/counters/PressureLevel.h"
+#include "platform/linux/counters/VMStatistics.h"
 #include "sampling/MemoryReading.h"
 
 using namespace zephrine;

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "platform/Trap.h"
-#include "platform/linux/PreferenceDocument.h"
+#include "platform/linux/preferences/PreferenceDocument.h"
 
 using namespace zephrine;
 

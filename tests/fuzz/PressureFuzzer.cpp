@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "platform/Trap.h"
-#include "platform/linux/PressureLevel.h"
+#include "platform/linux/counters/PressureLevel.h"
 
 using namespace zephrine;
 

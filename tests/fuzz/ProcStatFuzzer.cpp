@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "platform/Trap.h"
-#include "platform/linux/ProcStat.h"
+#include "platform/linux/counters/ProcStat.h"
 #include "sampling/CPUTicks.h"
 
 using namespace zephrine;

@@ -6,10 +6,10 @@
 #include <string_view>
 
 #include "platform/Trap.h"
-#include "platform/linux/PidListing.h"
-#include "platform/linux/ProcPidMemory.h"
-#include "platform/linux/ProcPidStat.h"
-#include "platform/linux/ProcessName.h"
+#include "platform/linux/processes/PidListing.h"
+#include "platform/linux/processes/ProcPidMemory.h"
+#include "platform/linux/processes/ProcPidStat.h"
+#include "platform/linux/processes/ProcessName.h"
 
 using namespace zephrine;
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "platform/Trap.h"
-#include "platform/linux/SwapDevices.h"
+#include "platform/linux/counters/SwapDevices.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
     std::string_view swaps(data, size);

@@ -12,7 +12,7 @@
 #include <QString>
 #include <cstring>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/base/FileDescriptor.h"
 
 namespace zephrine {
 

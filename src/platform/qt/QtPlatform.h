@@ -9,12 +9,12 @@
 #include <utility>
 
 #include "platform/Platform.h"
-#include "platform/linux/AutostartLoginItem.h"
-#include "platform/linux/JSONPreferenceStore.h"
-#include "platform/linux/LinuxFormatting.h"
-#include "platform/linux/LinuxGPURegistry.h"
-#include "platform/linux/LinuxHostCounters.h"
-#include "platform/linux/LinuxProcessTable.h"
+#include "platform/linux/counters/LinuxHostCounters.h"
+#include "platform/linux/formatting/LinuxFormatting.h"
+#include "platform/linux/gpu/LinuxGPURegistry.h"
+#include "platform/linux/login/AutostartLoginItem.h"
+#include "platform/linux/preferences/JSONPreferenceStore.h"
+#include "platform/linux/processes/LinuxProcessTable.h"
 #include "platform/qt/QtApplication.h"
 
 namespace zephrine {

@@ -9,7 +9,7 @@
 #include <memory>
 
 #include "platform/RunLoop.h"
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/base/FileDescriptor.h"
 #include "platform/qt/TimerQueue.h"
 
 namespace zephrine {

@@ -7,7 +7,7 @@
 #include <QSocketNotifier>
 #include <functional>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/base/FileDescriptor.h"
 
 namespace zephrine {
 

@@ -24,12 +24,11 @@ public:
     /// session bus nobody can be found, and every instance is the first.
     [[nodiscard]] bool claim();
 
-public Q_SLOTS:
     // The methods of https://specifications.freedesktop.org/desktop-entry-spec (D-Bus activation).
-    Q_SCRIPTABLE void Activate(const QVariantMap& platformData);
-    Q_SCRIPTABLE void Open(const QStringList& uris, const QVariantMap& platformData);
-    Q_SCRIPTABLE void ActivateAction(const QString& name, const QVariantList& parameter,
-                                     const QVariantMap& platformData);
+    Q_SCRIPTABLE Q_SLOT void Activate(const QVariantMap& platformData);
+    Q_SCRIPTABLE Q_SLOT void Open(const QStringList& uris, const QVariantMap& platformData);
+    Q_SCRIPTABLE Q_SLOT void ActivateAction(const QString& name, const QVariantList& parameter,
+                                            const QVariantMap& platformData);
 
 private:
     QDBusConnection bus_;

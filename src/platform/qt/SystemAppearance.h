@@ -36,10 +36,8 @@ public:
     /// Takes one setting as the portal words it; anything that is no such setting is ignored.
     void apply(const QString& group, const QString& key, const QVariant& value);
 
-private Q_SLOTS:
-    void settingChanged(const QDBusMessage& message);
-
 private:
+    Q_SLOT void settingChanged(const QDBusMessage& message);
     void applyAll(const QDBusMessage& reply);
     void change(const std::function<void()>& set);
 

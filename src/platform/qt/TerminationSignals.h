@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/base/FileDescriptor.h"
 
 namespace zephrine {
 

@@ -9,7 +9,7 @@
 #include <cstring>
 #include <map>
 
-#include "platform/linux/FileDescriptor.h"
+#include "platform/linux/base/FileDescriptor.h"
 
 namespace zephrine {
 namespace {

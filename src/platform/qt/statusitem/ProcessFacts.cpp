@@ -5,8 +5,8 @@
 #include <array>
 #include <limits>
 
-#include "platform/linux/CounterFile.h"
-#include "platform/linux/TextScan.h"
+#include "platform/linux/base/CounterFile.h"
+#include "platform/linux/base/TextScan.h"
 
 namespace zephrine {
 
