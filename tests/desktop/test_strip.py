@@ -49,6 +49,21 @@ class Strip(DesktopTestCase):
             desktop.run("xdotool", "click", "1")
             wait_until(lambda: dashboard(desktop, program), 5, "the dashboard")
 
+    def test_a_dashboard_that_was_open_before_it_moves_below_it(self):
+        with self.desktop() as desktop:
+            program = start(desktop, "--show-dashboard")
+            wait_until(lambda: dashboard(desktop, program), 5, "the dashboard")
+            _, x, y, width, height = wait_for_strip(desktop, program)
+
+            def is_below():
+                window = dashboard(desktop, program)
+                if not window:
+                    return False
+                _, left, top, across, _ = window
+                return top >= y + height and left < x and x + width <= left + across + 8
+
+            wait_until(is_below, 5, "the dashboard below the strip")
+
     def test_a_drag_moves_it_and_the_next_start_finds_it_there(self):
         with self.desktop() as desktop:
             program = start(desktop)

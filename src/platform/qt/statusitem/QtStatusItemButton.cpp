@@ -11,7 +11,6 @@
 #include "platform/qt/statusitem/BusText.h"
 #include "platform/qt/statusitem/X11.h"
 #include "platform/qt/statusitem/forms/Forms.h"
-#include "platform/qt/windows/X11Windows.h"
 
 namespace zephrine {
 
@@ -41,7 +40,7 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
       panelAppearance_(probe_, [] { return std::chrono::steady_clock::now(); }),
       told_(services.systemAppearance.current()),
       drawnFor_(told_) {
-    QObject::connect(&strip_, &QPushButton::clicked, &later_, [this] { clicked(); });
+    QObject::connect(&strip_, &QPushButton::clicked, this, [this] { clicked(); });
     strip_.setAccessibleDescription("Zephrine");
 }
 
@@ -82,7 +81,7 @@ void QtStatusItemButton::setAction(std::function<void()> action) {
 }
 
 std::optional<QRect> QtStatusItemButton::anchorRect() const {
-    return strip_.isVisible() ? std::optional(placeOnScreen(strip_)) : lastClick_;
+    return strip_.isVisible() ? std::optional(strip_.place()) : lastClick_;
 }
 
 void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {
@@ -100,7 +99,7 @@ void QtStatusItemButton::panelClicked() {
     lastClick_ = pointerRect();
     // Later, because the bus connection's thread waits until the panel's call is through.
     QMetaObject::invokeMethod(
-        &later_,
+        this,
         [this] {
             clickIsQueued_ = false;
             clicked();
@@ -123,7 +122,10 @@ void QtStatusItemButton::show() {
     if (shown) {
         strip_.setPicture(image_.wide, drawnFor_);
     }
-    strip_.setShown(shown);
+    if (shown != strip_.isVisible()) {
+        strip_.setShown(shown);
+        Q_EMIT anchorChanged();
+    }
 }
 
 }  // namespace zephrine

@@ -29,7 +29,7 @@ struct StatusItemServices {
     PreferenceStore& preferences;
 };
 
-class QtStatusItemButton final : public StatusItemButton, public ItemAnchor {
+class QtStatusItemButton final : public ItemAnchor, public StatusItemButton {
 public:
     QtStatusItemButton(const QDBusConnection& bus, const StatusItemServices& services);
 
@@ -55,7 +55,6 @@ private:
     StatusStrip strip_;
     X11PanelProbe probe_;
     mutable PanelAppearance panelAppearance_;
-    QObject later_;  // its queued calls die with it
 
     std::function<void()> action_;
     StatusItemImage image_;

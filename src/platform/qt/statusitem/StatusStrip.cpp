@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 
@@ -96,6 +97,11 @@ void StatusStrip::setShown(bool shown) {
     }
 }
 
+QRect StatusStrip::place() const {
+    const bool isThere = windowHandle() != nullptr && windowHandle()->isExposed();
+    return isThere ? placeOnScreen(*this) : geometry();
+}
+
 void StatusStrip::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -122,7 +128,7 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
 
 void StatusStrip::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        grip_ = Grip{event->globalPosition().toPoint(), placeOnScreen(*this).topLeft()};
+        grip_ = Grip{event->globalPosition().toPoint(), place().topLeft()};
         isDragged_ = false;
     }
 }

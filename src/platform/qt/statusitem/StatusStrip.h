@@ -31,6 +31,9 @@ public:
     /// Paints only if anything changed. The background fits `appearance`.
     void setPicture(const Image& picture, Appearance appearance);
     void setShown(bool shown);
+    /// In global logical coordinates; where it is going to be, until the window manager has put it
+    /// there.
+    [[nodiscard]] QRect place() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -82,7 +82,7 @@ void PopoverFrame::adopt(bool composited) {
 
 void PopoverFrame::open(QPoint corner) {
     adopt(isComposited());
-    move(corner - panel().topLeft());
+    moveTo(corner);
     setAttribute(Qt::WA_KeyboardFocusChange, false);
     const bool fades = composited_ && !appearance_.reducesMotion();
     setWindowOpacity(fades ? 0.0 : 1.0);
@@ -96,6 +96,10 @@ void PopoverFrame::open(QPoint corner) {
         fade_.start();
     }
     holdMouse();
+}
+
+void PopoverFrame::moveTo(QPoint corner) {
+    move(corner - panel().topLeft());
 }
 
 void PopoverFrame::holdMouse() {

@@ -28,6 +28,7 @@ public:
     [[nodiscard]] QSize panelSize() const { return panel().size(); }
     /// Shows the panel with its upper left corner at `corner`, above other windows.
     void open(QPoint corner);
+    void moveTo(QPoint corner);
     /// Makes sure that a press anywhere else is noticed. Another program may hold the mouse at
     /// the moment: call it again now and then.
     void holdMouse();

@@ -34,14 +34,26 @@ void QtPopover::showRelativeTo(StatusItemButton& button) {
     }
     const auto* anchor = dynamic_cast<const ItemAnchor*>(&button);
     const std::optional<QRect> item = anchor != nullptr ? anchor->anchorRect() : std::nullopt;
-    const QScreen& screen = screenAt(item ? item->center() : QCursor::pos());
-    frame_.open(placePopover(item, workAreaOf(screen), frame_.panelSize()));
+    frame_.open(cornerBeside(item));
+    if (anchor != nullptr) {
+        following_ = QObject::connect(anchor, &ItemAnchor::anchorChanged, &frame_, [this, anchor] {
+            if (const auto place = anchor->anchorRect()) {
+                frame_.moveTo(cornerBeside(place));
+            }
+        });
+    }
     // The mouse is held from the first moment at which nobody else holds it. A full interval of
     // tolerance lets the timer fire with others.
     watch_ = runLoop_.scheduleTimer(1, 1, [this] { frame_.holdMouse(); });
 }
 
+QPoint QtPopover::cornerBeside(const std::optional<QRect>& item) const {
+    const QScreen& screen = screenAt(item ? item->center() : QCursor::pos());
+    return placePopover(item, workAreaOf(screen), frame_.panelSize());
+}
+
 void QtPopover::closed() {
+    QObject::disconnect(following_);
     watch_.reset();
     if (didClose_) {
         const auto handler = didClose_;

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "platform/RunLoop.h"
 #include "platform/Windows.h"
@@ -25,6 +26,7 @@ public:
     void performClose() override { frame_.hide(); }
 
 private:
+    [[nodiscard]] QPoint cornerBeside(const std::optional<QRect>& item) const;
     void closed();
 
     RunLoop& runLoop_;
@@ -32,6 +34,7 @@ private:
     std::function<void()> didClose_;
     std::unique_ptr<Timer> watch_;
     PopoverFrame frame_;
+    QMetaObject::Connection following_;
 };
 
 }  // namespace zephrine

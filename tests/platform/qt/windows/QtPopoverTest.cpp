@@ -16,7 +16,7 @@
 namespace zephrine {
 namespace {
 
-struct AnchoredButton final : FakeStatusItemButton, ItemAnchor {
+struct AnchoredButton final : ItemAnchor, FakeStatusItemButton {
     std::optional<QRect> place;
     [[nodiscard]] std::optional<QRect> anchorRect() const override { return place; }
 };
@@ -66,6 +66,22 @@ TEST_F(QtPopoverTest, OpensBelowTheItem) {
     button.place = QRect(300, 0, 80, 24);
     popover.showRelativeTo(button);
     EXPECT_EQ(content.widget().mapToGlobal(QPoint(0, 0)), QPoint(300 + 40 - 180, 24 + 6 + 1));
+}
+
+TEST_F(QtPopoverTest, MovesToTheItemWhenThatAppearsWhileItIsOpen) {
+    popover.showRelativeTo(button);
+    button.place = QRect(300, 0, 80, 24);
+    Q_EMIT button.anchorChanged();
+    EXPECT_EQ(content.widget().mapToGlobal(QPoint(0, 0)), QPoint(300 + 40 - 180, 24 + 6 + 1));
+}
+
+TEST_F(QtPopoverTest, StaysWhereItIsWhenTheItemGoesAway) {
+    button.place = QRect(300, 0, 80, 24);
+    popover.showRelativeTo(button);
+    const QPoint before = window().pos();
+    button.place.reset();
+    Q_EMIT button.anchorChanged();
+    EXPECT_EQ(window().pos(), before);
 }
 
 TEST_F(QtPopoverTest, TellsThatItHasClosedOnEveryWay) {
