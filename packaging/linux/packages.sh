@@ -23,6 +23,12 @@ test_packages=(
     locales ccache procps python3 strace
 )
 
+# The panels that the status item is tried on, and a load to show.
+# shellcheck disable=SC2034
+panel_packages=(
+    lxqt-panel mate-panel libglib2.0-bin stress-ng
+)
+
 # Checking the macOS back end against declarations: tests/macos/check.
 # shellcheck disable=SC2034
 macos_packages=(
