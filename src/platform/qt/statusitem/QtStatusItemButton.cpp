@@ -40,13 +40,15 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
       panelAppearance_(probe_, [] { return std::chrono::steady_clock::now(); }),
       told_(services.systemAppearance.current()),
       drawnFor_(told_) {
-    QObject::connect(&strip_, &QPushButton::clicked, this, [this] { clicked(); });
+    connect(&strip_, &QPushButton::clicked, this, [this] { clicked(); });
+    connect(&tray_, &TrayItem::clicked, this, [this] { clicked(); });
+    connect(&tray_, &TrayItem::presenceChanged, this, [this] { placeChanged(); });
+    connect(&tray_, &TrayItem::placeChanged, this, &ItemAnchor::anchorChanged);
     strip_.setAccessibleDescription("Zephrine");
 }
 
 std::optional<Appearance> QtStatusItemButton::effectiveAppearance() const {
-    const auto panel = needsStrip_ ? std::nullopt : panelAppearance_.current();
-    told_ = panel.value_or(services_.systemAppearance.current());
+    told_ = panelAppearance_.current().value_or(services_.systemAppearance.current());
     return told_;
 }
 
@@ -81,14 +83,17 @@ void QtStatusItemButton::setAction(std::function<void()> action) {
 }
 
 std::optional<QRect> QtStatusItemButton::anchorRect() const {
+    if (const auto inTray = tray_.place()) {
+        return inTray;
+    }
     return strip_.isVisible() ? std::optional(strip_.place()) : lastClick_;
 }
 
 void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {
     host_ = watcher.process();
-    needsStrip_ = watcher.presence() == HostWatcher::Presence::absent;
-    panelAppearance_.setHost(host_);
-    show();
+    isInPanel_ = watcher.presence() != HostWatcher::Presence::absent;
+    tray_.setWanted(!isInPanel_);
+    placeChanged();
 }
 
 void QtStatusItemButton::panelClicked() {
@@ -114,11 +119,23 @@ void QtStatusItemButton::clicked() {
     }
 }
 
+void QtStatusItemButton::placeChanged() {
+    const bool isInTray = tray_.presence() == TrayItem::Presence::docked;
+    panelAppearance_.setHost(isInPanel_ ? host_
+                             : isInTray ? std::optional(HostProcess())  // who it is, nobody says
+                                        : std::nullopt);
+    show();
+}
+
 void QtStatusItemButton::show() {
     if (host_) {
         item_.setPixmaps(pixmapsForHost(formOfHost(host_->command), image_, drawnFor_));
     }
-    const bool shown = needsStrip_ && image_.wide.drawingHandler;
+    if (!isInPanel_) {
+        tray_.setPicture(image_, drawnFor_);
+    }
+    const bool shown =
+        !isInPanel_ && tray_.presence() == TrayItem::Presence::absent && image_.wide.drawingHandler;
     if (shown) {
         strip_.setPicture(image_.wide, drawnFor_);
     }

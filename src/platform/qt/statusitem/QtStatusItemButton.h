@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is seen and clicked of the item: in a panel, or in our own strip while there is none.
+// What is seen and clicked of the item: in a panel, else in a tray, else in a strip of our own.
 #pragma once
 
 #include <QDBusConnection>
@@ -19,6 +19,7 @@
 #include "platform/qt/statusitem/PanelAppearance.h"
 #include "platform/qt/statusitem/StatusStrip.h"
 #include "platform/qt/statusitem/X11PanelProbe.h"
+#include "platform/qt/statusitem/tray/TrayItem.h"
 
 namespace zephrine {
 
@@ -48,10 +49,12 @@ private:
     void panelClicked();
     void clicked();
     void show();
+    void placeChanged();
 
     StatusItemServices services_;
     NotifierItem item_;
     NotifierMenu menu_;
+    TrayItem tray_;
     StatusStrip strip_;
     X11PanelProbe probe_;
     mutable PanelAppearance panelAppearance_;
@@ -64,7 +67,7 @@ private:
     mutable Appearance told_;
     Appearance drawnFor_;
     std::optional<HostProcess> host_;
-    bool needsStrip_ = false;
+    bool isInPanel_ = true;  ///< until it is known that there is none
     bool clickIsQueued_ = false;
     std::optional<QRect> lastClick_;
 };

@@ -63,13 +63,13 @@ std::optional<Strut> strutFrom(std::span<const std::uint32_t> words, QSize root)
 }
 
 /// Qt leaves the corner of a screen where the X server has it, and scales distances from there.
-QPoint logicalPlace(QPoint onRoot) {
+QRect logicalRect(const QRect& onRoot) {
     const auto screens = QGuiApplication::screens();
     for (const QScreen* screen : screens) {
         const QPoint corner = screen->geometry().topLeft();
         const double scale = screen->devicePixelRatio();
-        if (QRect(corner, screen->geometry().size() * scale).contains(onRoot)) {
-            return corner + (onRoot - corner) / scale;
+        if (QRect(corner, screen->geometry().size() * scale).contains(onRoot.topLeft())) {
+            return {corner + (onRoot.topLeft() - corner) / scale, onRoot.size() / scale};
         }
     }
     return onRoot;
@@ -134,11 +134,19 @@ QRect placeOnScreen(const QWidget& window) {
     if (connection == nullptr || handle == nullptr || handle->handle() == nullptr) {
         return window.geometry();
     }
-    const auto cookie = xcb_translate_coordinates(
-        connection, static_cast<xcb_window_t>(handle->winId()), screenOf(connection).root, 0, 0);
+    const auto place = placeOnScreen(static_cast<xcb_window_t>(handle->winId()), {});
+    return place ? QRect(place->topLeft(), window.size()) : window.geometry();
+}
+
+std::optional<QRect> placeOnScreen(std::uint32_t window, QSize size) {
+    xcb_connection_t* connection = x11Connection();
+    if (connection == nullptr) {
+        return std::nullopt;
+    }
+    const auto cookie =
+        xcb_translate_coordinates(connection, window, screenOf(connection).root, 0, 0);
     const auto reply = own(xcb_translate_coordinates_reply(connection, cookie, nullptr));
-    return reply ? QRect(logicalPlace({reply->dst_x, reply->dst_y}), window.size())
-                 : window.geometry();
+    return reply ? std::optional(logicalRect({{reply->dst_x, reply->dst_y}, size})) : std::nullopt;
 }
 
 void activateAsPager(QWindow& window) {

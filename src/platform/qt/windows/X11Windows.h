@@ -7,6 +7,7 @@
 #include <QSize>
 #include <QWidget>
 #include <QWindow>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -28,6 +29,10 @@ std::optional<X11Panels> x11Panels();
 /// Where `window` is, in global logical coordinates: from the X server, where there is one. Qt is
 /// wrong about it when a window manager moves its frame only after Qt has asked (Openbox does).
 QRect placeOnScreen(const QWidget& window);
+
+/// The same for a window of the X server, `size` device pixels large; absent when it has gone, or
+/// when the display is not X11.
+std::optional<QRect> placeOnScreen(std::uint32_t window, QSize size);
 
 /// Asks the window manager for the keyboard as a pager does: such a request is granted also when
 /// the click that led to it went to another program, as clicks on a panel do.

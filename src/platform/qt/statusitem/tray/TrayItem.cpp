@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+// A tray is the owner of the selection _NET_SYSTEM_TRAY_Sn, and announces itself to the root window
+// when it appears: https://specifications.freedesktop.org/systemtray-spec.
+#include "platform/qt/statusitem/tray/TrayItem.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <array>
+#include <chrono>
+#include <string>
+#include <utility>
+
+#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/statusitem/tray/TrayVisual.h"
+#include "platform/qt/windows/X11Windows.h"
+
+namespace zephrine {
+
+namespace {
+
+// For a tray that was asked to take the item in, or to come back after it has gone.
+constexpr std::chrono::seconds kPatience{3};
+
+void listen(xcb_connection_t* connection, xcb_window_t window) {
+    constexpr std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    xcb_change_window_attributes(connection, window, XCB_CW_EVENT_MASK, &mask);
+}
+
+}  // namespace
+
+TrayItem::TrayItem() {
+    patience_.setSingleShot(true);
+    patience_.setInterval(kPatience);
+    patience_.callOnTimeout([this] { setPresence(Presence::absent); });
+}
+
+void TrayItem::setWanted(bool wanted) {
+    if (wanted == (connection_ != nullptr)) {
+        return;
+    }
+    if (!wanted) {
+        leaveTray();
+        manager_ = XCB_WINDOW_NONE;
+        connection_.reset();
+        patience_.stop();
+        setPresence(Presence::absent);
+        return;
+    }
+    connection_ = std::make_unique<TrayConnection>(
+        [this](const xcb_generic_event_t& event) { handle(event); });
+    if (connection_->isOpen()) {
+        const auto atoms = internAtoms<2>(connection_->get(), {"_NET_SYSTEM_TRAY_S0", "MANAGER"});
+        selection_ = atoms[0];
+        managerMessage_ = atoms[1];
+        listen(connection_->get(), connection_->screen().root);
+        findManager();
+    }
+}
+
+void TrayItem::setPicture(const StatusItemImage& image, Appearance appearance) {
+    image_ = image;
+    appearance_ = appearance;
+    if (window_) {
+        window_->setPicture(image_, appearance_,
+                            QGuiApplication::primaryScreen()->devicePixelRatio());
+    }
+}
+
+std::optional<QRect> TrayItem::place() const {
+    return presence_ == Presence::docked ? placeOnScreen(window_->id(), window_->size())
+                                         : std::nullopt;
+}
+
+void TrayItem::handle(const xcb_generic_event_t& event) {
+    const int kind = event.response_type & 0x7f;
+    if (kind == XCB_CLIENT_MESSAGE) {
+        const auto& message = reinterpret_cast<const xcb_client_message_event_t&>(event);
+        if (message.type == managerMessage_ && message.data.data32[1] == selection_) {
+            findManager();
+        }
+    } else if (kind == XCB_DESTROY_NOTIFY &&
+               reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == manager_) {
+        leaveTray();
+        findManager();
+    } else if (window_) {
+        window_->handle(event);
+    }
+}
+
+void TrayItem::findManager() {
+    xcb_connection_t* const x = connection_->get();
+    const auto owner =
+        own(xcb_get_selection_owner_reply(x, xcb_get_selection_owner(x, selection_), nullptr));
+    const xcb_window_t manager = owner ? owner->owner : xcb_window_t{XCB_WINDOW_NONE};
+    if (manager != XCB_WINDOW_NONE && std::exchange(manager_, manager) != manager) {
+        dockWith(manager);
+    }
+    connection_->flush();
+}
+
+void TrayItem::dockWith(xcb_window_t manager) {
+    leaveTray();
+    manager_ = manager;
+    listen(connection_->get(), manager);
+    const auto visual = visualOfTray(connection_->get(), connection_->screen(), manager);
+    if (!visual) {
+        return;
+    }
+    if (presence_ == Presence::absent) {
+        setPresence(Presence::unknown);
+    }
+    patience_.start();
+    window_ = std::make_unique<TrayWindow>(
+        *connection_, manager, *visual,
+        TrayWindow::Handlers{.placed =
+                                 [this] {
+                                     patience_.stop();
+                                     setPresence(Presence::docked);
+                                     Q_EMIT placeChanged();
+                                 },
+                             .lost =
+                                 [this] {
+                                     // It is in the middle of one of its own operations.
+                                     QMetaObject::invokeMethod(
+                                         this, [this] { leaveTray(); }, Qt::QueuedConnection);
+                                 },
+                             .clicked = [this] { Q_EMIT clicked(); }});
+    setPicture(image_, appearance_);
+}
+
+void TrayItem::leaveTray() {
+    manager_ = XCB_WINDOW_NONE;
+    window_.reset();
+    if (presence_ == Presence::docked) {
+        setPresence(Presence::unknown);
+        patience_.start();
+    }
+}
+
+void TrayItem::setPresence(Presence presence) {
+    if (std::exchange(presence_, presence) != presence) {
+        Q_EMIT presenceChanged();
+    }
+}
+
+}  // namespace zephrine

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// The item in a tray of X11, for desktops whose panel does not ask for items on the bus. Follows
+// the tray: docks with each new one, and tells when there is none.
+#pragma once
+
+#include <QObject>
+#include <QRect>
+#include <QTimer>
+#include <memory>
+#include <optional>
+
+#include "platform/StatusBar.h"
+#include "platform/qt/statusitem/tray/TrayConnection.h"
+#include "platform/qt/statusitem/tray/TrayWindow.h"
+
+namespace zephrine {
+
+class TrayItem final : public QObject {
+    Q_OBJECT
+
+public:
+    enum class Presence {
+        unknown,  ///< a tray has been asked
+        docked,
+        absent,
+    };
+
+    TrayItem();
+
+    /// Whether the item should stand in a tray at all; it does not at first.
+    void setWanted(bool wanted);
+    [[nodiscard]] Presence presence() const { return presence_; }
+    void setPicture(const StatusItemImage& image, Appearance appearance);
+    /// In global logical coordinates; absent while it is not docked.
+    [[nodiscard]] std::optional<QRect> place() const;
+
+    Q_SIGNAL void presenceChanged();
+    Q_SIGNAL void placeChanged();
+    Q_SIGNAL void clicked();
+
+private:
+    void handle(const xcb_generic_event_t& event);
+    void findManager();
+    void dockWith(xcb_window_t manager);
+    void leaveTray();
+    void setPresence(Presence presence);
+
+    std::unique_ptr<TrayConnection> connection_;  // only while it is wanted
+    xcb_atom_t selection_ = XCB_ATOM_NONE;
+    xcb_atom_t managerMessage_ = XCB_ATOM_NONE;
+    xcb_window_t manager_ = XCB_WINDOW_NONE;
+    std::unique_ptr<TrayWindow> window_;
+    QTimer patience_;
+    StatusItemImage image_;
+    Appearance appearance_ = Appearance::aqua;
+    Presence presence_ = Presence::absent;
+};
+
+}  // namespace zephrine

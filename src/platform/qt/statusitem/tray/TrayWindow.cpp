@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: MIT
+// A window without Qt: inside a tray it has to take over what the tray draws behind it, which is
+// a property of X windows that Qt's do not offer.
+#include "platform/qt/statusitem/tray/TrayWindow.h"
+
+#include <QPainter>
+#include <array>
+#include <cmath>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+#include "platform/qt/drawing/RenderImage.h"
+#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/statusitem/tray/TrayLayout.h"
+
+namespace zephrine {
+
+namespace {
+
+constexpr std::uint32_t kEvents =
+    XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+
+std::uint16_t extent(int pixels) {
+    return static_cast<std::uint16_t>(pixels);
+}
+
+template <typename Event>
+const Event& as(const xcb_generic_event_t& event) {
+    return reinterpret_cast<const Event&>(event);  // the kinds of events share their beginning
+}
+
+}  // namespace
+
+TrayWindow::TrayWindow(TrayConnection& connection, xcb_window_t manager, const TrayVisual& visual,
+                       Handlers handlers)
+    : connection_(connection), visual_(visual), handlers_(std::move(handlers)) {
+    xcb_connection_t* const x = connection_.get();
+    const xcb_screen_t& screen = connection_.screen();
+    window_ = xcb_generate_id(x);
+    graphics_ = xcb_generate_id(x);
+    colormap_ = xcb_generate_id(x);
+    xcb_create_colormap(x, XCB_COLORMAP_ALLOC_NONE, colormap_, screen.root, visual_.id);
+    // Without alpha the window shows what its parent shows behind it.
+    const std::uint32_t background = visual_.hasAlpha() ? 0 : XCB_BACK_PIXMAP_PARENT_RELATIVE;
+    const std::uint32_t kind = visual_.hasAlpha() ? XCB_CW_BACK_PIXEL : XCB_CW_BACK_PIXMAP;
+    const std::array<std::uint32_t, 4> values{background, 0, kEvents, colormap_};
+    xcb_create_window(x, visual_.depth, window_, screen.root, 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, visual_.id,
+                      kind | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
+                      values.data());
+    xcb_create_gc(x, graphics_, window_, 0, nullptr);
+    tellEmbedder();
+    requestDock(manager);
+    connection_.flush();
+}
+
+TrayWindow::~TrayWindow() {
+    xcb_free_gc(connection_.get(), graphics_);
+    xcb_destroy_window(connection_.get(), window_);
+    xcb_free_colormap(connection_.get(), colormap_);
+    connection_.flush();
+}
+
+void TrayWindow::tellEmbedder() {
+    xcb_connection_t* const x = connection_.get();
+    constexpr std::string_view name = "Zephrine";
+    constexpr std::string_view classes{"zephrine\0Zephrine", 18};
+    constexpr std::array<std::uint32_t, 2> info{0, 1};  // version; wants to be mapped
+    const auto [infoAtom, nameAtom, utf8] =
+        internAtoms<3>(x, {"_XEMBED_INFO", "_NET_WM_NAME", "UTF8_STRING"});
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, window_, infoAtom, infoAtom, 32, info.size(),
+                        info.data());
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, window_, nameAtom, utf8, 8, name.size(),
+                        name.data());
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
+                        classes.size(), classes.data());
+}
+
+void TrayWindow::requestDock(xcb_window_t manager) {
+    constexpr std::uint32_t dock = 0;  // SYSTEM_TRAY_REQUEST_DOCK
+    xcb_client_message_event_t request{};
+    request.response_type = XCB_CLIENT_MESSAGE;
+    request.format = 32;
+    request.window = manager;
+    request.type = internAtoms<1>(connection_.get(), {"_NET_SYSTEM_TRAY_OPCODE"})[0];
+    request.data.data32[0] = XCB_CURRENT_TIME;
+    request.data.data32[1] = dock;
+    request.data.data32[2] = window_;
+    xcb_send_event(connection_.get(), 0, manager, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char*>(&request));
+}
+
+void TrayWindow::setPicture(const StatusItemImage& image, Appearance appearance, double density) {
+    image_ = image;
+    appearance_ = appearance;
+    density_ = density;
+    askForWidth();
+    paint();
+}
+
+void TrayWindow::askForWidth() {
+    const QSize wanted(static_cast<int>(std::ceil(image_.wide.size.width * density_)),
+                       static_cast<int>(std::ceil(image_.wide.size.height * density_)));
+    if (std::exchange(asked_, wanted) == wanted) {
+        return;
+    }
+    // WM_SIZE_HINTS of the Inter-Client Communication Conventions Manual, section 4.1.2.3: trays
+    // that look at the least size give it; the others give a square.
+    constexpr std::uint32_t leastSize = 1U << 4;
+    std::array<std::uint32_t, 18> hints{};
+    hints[0] = leastSize;
+    hints[5] = static_cast<std::uint32_t>(wanted.width());
+    hints[6] = static_cast<std::uint32_t>(wanted.height());
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_NORMAL_HINTS,
+                        XCB_ATOM_WM_SIZE_HINTS, 32, hints.size(), hints.data());
+    if (!isDocked_) {  // some trays take the first size for the wish
+        const std::array<std::uint32_t, 2> size{hints[5], hints[6]};
+        xcb_configure_window(connection_.get(), window_,
+                             XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, size.data());
+    }
+    connection_.flush();
+}
+
+void TrayWindow::handle(const xcb_generic_event_t& event) {
+    switch (event.response_type & 0x7f) {  // the uppermost bit tells that a program has sent it
+        case XCB_EXPOSE:
+            if (as<xcb_expose_event_t>(event).window == window_) {
+                background_ = {};
+                painted_ = {};
+                paint();
+            }
+            break;
+        case XCB_CONFIGURE_NOTIFY:
+            if (const auto& change = as<xcb_configure_notify_event_t>(event);
+                change.window == window_) {
+                resized({change.width, change.height});
+            }
+            break;
+        case XCB_REPARENT_NOTIFY:
+            if (const auto& change = as<xcb_reparent_notify_event_t>(event);
+                change.window == window_) {
+                reparented(change.parent);
+            }
+            break;
+        case XCB_DESTROY_NOTIFY:
+            if (as<xcb_destroy_notify_event_t>(event).window == window_) {
+                handlers_.lost();
+            }
+            break;
+        case XCB_BUTTON_PRESS:
+            if (const auto& press = as<xcb_button_press_event_t>(event);
+                press.event == window_ && press.detail <= XCB_BUTTON_INDEX_3) {  // no scrolling
+                xcb_ungrab_pointer(connection_.get(), press.time);
+                connection_.flush();
+                handlers_.clicked();
+            }
+            break;
+        default:
+            break;
+    }
+}
+
+void TrayWindow::reparented(xcb_window_t parent) {
+    const bool isInTray = parent != connection_.screen().root;
+    if (std::exchange(isDocked_, isInTray) == isInTray) {
+        return;
+    }
+    isInTray ? handlers_.placed() : handlers_.lost();
+}
+
+void TrayWindow::resized(QSize size) {
+    if (std::exchange(size_, size) != size) {
+        background_ = {};
+        painted_ = {};
+        paint();
+        if (isDocked_) {
+            handlers_.placed();
+        }
+    }
+}
+
+QImage TrayWindow::picture() const {
+    const TrayLayout layout = layOutInTray(size_, image_.wide.size, density_);
+    QImage part = layout.isWide   ? renderImage(image_.wide, layout.scale, appearance_)
+                  : image_.square ? renderImage(image_.square(layout.side), 1, appearance_)
+                                  : QImage();
+    part.setDevicePixelRatio(1);
+    QImage whole(size_, QImage::Format_ARGB32_Premultiplied);
+    whole.fill(Qt::transparent);
+    QPainter(&whole).drawImage(layout.corner, part);
+    return whole;
+}
+
+const QImage& TrayWindow::background() {
+    if (background_.isNull()) {
+        xcb_connection_t* const x = connection_.get();
+        xcb_clear_area(x, 0, window_, 0, 0, 0, 0);
+        const auto seen = own(
+            xcb_get_image_reply(x,
+                                xcb_get_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, window_, 0, 0,
+                                              extent(size_.width()), extent(size_.height()), ~0U),
+                                nullptr));
+        background_ = QImage(size_, QImage::Format_RGB32);
+        background_.fill(Qt::black);
+        const auto bytes = static_cast<std::size_t>(background_.sizeInBytes());
+        if (seen && static_cast<std::size_t>(xcb_get_image_data_length(seen.get())) >= bytes) {
+            std::memcpy(background_.bits(), xcb_get_image_data(seen.get()), bytes);
+        }
+    }
+    return background_;
+}
+
+void TrayWindow::paint() {
+    if (!isDocked_ || !image_.wide.drawingHandler) {
+        return;
+    }
+    QImage pixels = picture();
+    if (!visual_.hasAlpha()) {
+        QImage opaque = background();
+        QPainter(&opaque).drawImage(0, 0, pixels);
+        pixels = std::move(opaque);
+    }
+    if (pixels == painted_) {
+        return;
+    }
+    painted_ = pixels;
+    xcb_put_image(connection_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, window_, graphics_,
+                  extent(pixels.width()), extent(pixels.height()), 0, 0, 0, visual_.depth,
+                  static_cast<std::uint32_t>(pixels.sizeInBytes()), pixels.constBits());
+    connection_.flush();
+}
+
+}  // namespace zephrine

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// The item's window inside a tray, from the request to be taken in until the tray lets it go.
+// https://specifications.freedesktop.org/systemtray-spec and, for what happens inside the tray,
+// https://specifications.freedesktop.org/xembed-spec.
+#pragma once
+
+#include <QImage>
+#include <QRect>
+#include <QSize>
+#include <functional>
+
+#include "platform/StatusBar.h"
+#include "platform/qt/statusitem/tray/TrayConnection.h"
+#include "platform/qt/statusitem/tray/TrayVisual.h"
+
+namespace zephrine {
+
+class TrayWindow {
+public:
+    struct Handlers {
+        std::function<void()> placed;  ///< taken in, or given another size
+        std::function<void()> lost;    ///< the tray has let it go; destroy it, but not at once
+        std::function<void()> clicked;
+    };
+
+    /// Asks `manager`, the tray's window, to take it in. `connection` outlives it.
+    TrayWindow(TrayConnection& connection, xcb_window_t manager, const TrayVisual& visual,
+               Handlers handlers);
+    ~TrayWindow();
+    Q_DISABLE_COPY_MOVE(TrayWindow)
+
+    void setPicture(const StatusItemImage& image, Appearance appearance, double density);
+    /// Events of other windows are ignored.
+    void handle(const xcb_generic_event_t& event);
+
+    [[nodiscard]] bool isDocked() const { return isDocked_; }
+    [[nodiscard]] xcb_window_t id() const { return window_; }
+    [[nodiscard]] QSize size() const { return size_; }
+
+private:
+    void tellEmbedder();
+    void requestDock(xcb_window_t manager);
+    void askForWidth();
+    void paint();
+    [[nodiscard]] QImage picture() const;
+    /// What is behind the window, read from the screen.
+    [[nodiscard]] const QImage& background();
+    void reparented(xcb_window_t parent);
+    void resized(QSize size);
+
+    TrayConnection& connection_;
+    TrayVisual visual_;
+    Handlers handlers_;
+    xcb_window_t window_ = XCB_WINDOW_NONE;
+    xcb_gcontext_t graphics_ = XCB_NONE;
+    xcb_colormap_t colormap_ = XCB_NONE;
+    StatusItemImage image_;
+    Appearance appearance_ = Appearance::aqua;
+    double density_ = 1;
+    QSize asked_;
+    QSize size_{1, 1};
+    QImage background_;
+    QImage painted_;
+    bool isDocked_ = false;
+};
+
+}  // namespace zephrine
