@@ -23,10 +23,11 @@ test_packages=(
     locales ccache procps python3 strace
 )
 
-# The panels that the status item is tried on, and a load to show.
+# The panels that the status item is tried on, a load to show, and what reads it off the screen.
 # shellcheck disable=SC2034
 panel_packages=(
-    lxqt-panel mate-panel libglib2.0-bin stress-ng
+    lxqt-panel mate-panel libglib2.0-bin trayer tint2
+    stress-ng tesseract-ocr tesseract-ocr-eng
 )
 
 # Checking the macOS back end against declarations: tests/macos/check.

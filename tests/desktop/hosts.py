@@ -1,6 +1,9 @@
 # SPDX-License-Identifier: MIT
 """Panels that show status items, one function each: it starts the panel on a desktop, waits until
 the panel accepts items, and returns the panel's process."""
+import dataclasses
+import typing
+
 from bus import Bus
 from desktop import wait_until
 
@@ -11,13 +14,15 @@ XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
     <value type="int" value="1"/>
     <property name="dark-mode" type="bool" value="false"/>
     <property name="panel-1" type="empty">
-      <property name="position" type="string" value="p=6;x=0;y=0"/>
+      <property name="position" type="string" value="p=@place@;x=@x@;y=0"/>
+      <property name="mode" type="uint" value="@mode@"/>
       <property name="position-locked" type="bool" value="true"/>
       <property name="length" type="uint" value="100"/>
       <property name="size" type="uint" value="28"/>
       <property name="plugin-ids" type="array">
         <value type="int" value="1"/>
         <value type="int" value="2"/>
+        <value type="int" value="3"/>
       </property>
     </property>
   </property>
@@ -27,9 +32,16 @@ XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
       <property name="style" type="uint" value="0"/>
     </property>
     <property name="plugin-2" type="string" value="systray"/>
+    <property name="plugin-3" type="string" value="separator">
+      <property name="expand" type="bool" value="@centred@"/>
+      <property name="style" type="uint" value="0"/>
+    </property>
   </property>
 </channel>
 """
+
+# Edge of the screen: (corner at which the panel begins, whether it is vertical), as the panel counts.
+XFCE_EDGES = {"top": (6, 0), "bottom": (8, 0), "left": (6, 1), "right": (2, 1)}
 
 LXQT_PANEL = """panels=panel1
 
@@ -49,13 +61,28 @@ type=spacer
 type=statusnotifier
 """
 
+TINT2_PANEL = """panel_items = TS
+panel_position = top center horizontal
+panel_size = 100% 30
+systray_icon_size = 24
+rounded = 0
+background_color = #222222 100
+panel_background_id = 1
+"""
 
-def xfce(desktop):
-    """The panel of Xfce across the top of the screen, with nothing but its tray at the right."""
+
+def xfce(desktop, edge="top", centred=False, x=0):
+    """The panel of Xfce along a whole edge of the monitor that shows the column `x`, with nothing but
+    its tray, at the end or the centre."""
     folder = desktop.config / "xfce4/xfconf/xfce-perchannel-xml"
     if not folder.exists():
         folder.mkdir(parents=True)
-        (folder / "xfce4-panel.xml").write_text(XFCE_PANEL, encoding="utf-8")
+        place, mode = XFCE_EDGES[edge]
+        text = XFCE_PANEL
+        for name, value in {"place": place, "mode": mode, "x": x,
+                            "centred": str(centred).lower()}.items():
+            text = text.replace(f"@{name}@", str(value))
+        (folder / "xfce4-panel.xml").write_text(text, encoding="utf-8")
     panel = desktop.start("xfce4-panel", "--disable-wm-check")
     wait_for_watcher(desktop)
     return panel
@@ -88,3 +115,38 @@ def mate(desktop):
 def wait_for_watcher(desktop):
     with Bus(desktop.bus_address) as bus:
         wait_until(lambda: bus.owner("org.kde.StatusNotifierWatcher"), 20, "a status item host")
+
+
+def trayer(desktop):
+    """A tray of X11 and nothing else, which leaves windows as wide as they wish to be."""
+    return desktop.start("trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
+                         "--height", "26")
+
+
+def tint2(desktop):
+    """A panel with a tray of X11 that makes every window a square."""
+    settings = desktop.config / "tint2rc"
+    settings.write_text(TINT2_PANEL, encoding="utf-8")
+    return desktop.start("tint2", "-c", str(settings))
+
+
+def none(_):
+    """A bare window manager: there, the item has a strip of its own."""
+
+
+@dataclasses.dataclass(frozen=True)
+class Host:
+    start: typing.Callable  # of the desktop; returns the panel's process, or None
+    area: tuple  # left, top, right, bottom of where the item may be, and nothing else that moves
+
+
+TOP = (0, 0, 1000, 32)
+
+BY_NAME = {
+    "xfce": Host(xfce, TOP),
+    "lxqt": Host(lxqt, (0, 728, 1000, 760)),
+    "mate": Host(mate, (500, 0, 870, 24)),
+    "trayer": Host(trayer, TOP),
+    "tint2": Host(tint2, TOP),
+    "none": Host(none, TOP),
+}

@@ -52,3 +52,10 @@ def compare(item, seconds, interval=1.0):
 
     before, after = ticks_at(samples[first][0] - interval), ticks_at(samples[last][0] - interval)
     return shown, 100 * (after[0] - before[0]) / (after[1] - before[1])
+
+
+def memory_percent():
+    """Memory in use, as free(1) counts it."""
+    with open("/proc/meminfo", encoding="ascii") as meminfo:
+        total, _, available = (int(next(meminfo).split()[1]) for _ in range(3))
+    return 100 * (total - available) / total

@@ -6,6 +6,8 @@ import pathlib
 import subprocess
 import unittest
 
+from PIL import ImageChops
+
 from desktop import Desktop, wait_until
 
 PROGRAM = os.environ.get("ZEPHRINE", "")
@@ -48,6 +50,20 @@ def dashboard(desktop, process):
 def strip(desktop, process):
     """The window that stands in for the item where no panel takes it; None where there is none."""
     return next((w for w in windows(desktop, process) if w[4] < 60), None)
+
+
+def click(desktop, place, button=1):
+    desktop.run("xdotool", "mousemove", *map(str, place))
+    desktop.run("xdotool", "click", str(button))
+
+
+def press_keys(desktop, *keys):
+    desktop.run("xdotool", "key", *keys)
+
+
+def changed_box(before, after):
+    """The box of the pixels that differ, or None."""
+    return ImageChops.difference(before, after).getbbox()
 
 
 def wait_for_item(bus, process, timeout=10):

@@ -1,0 +1,28 @@
+# SPDX-License-Identifier: MIT
+"""Reading the figures of a status item off the screen, by optical character recognition: what a
+program can read there, a person can."""
+import re
+import subprocess
+import tempfile
+
+from PIL import Image, ImageOps, ImageStat
+
+MAGNIFICATION = 6
+MARGIN = 24
+
+
+def figures(picture):
+    """The numbers in a picture of an item, as text, from top to bottom; the units are left out."""
+    grey = picture.convert("L")
+    large = grey.resize((grey.width * MAGNIFICATION, grey.height * MAGNIFICATION), Image.LANCZOS)
+    background = ImageStat.Stat(large).median[0]
+    large = ImageOps.expand(large, MARGIN, fill=background)
+    if background < 128:
+        large = ImageOps.invert(large)
+    with tempfile.NamedTemporaryFile(suffix=".png") as file:
+        large.save(file.name)
+        text = subprocess.run(["tesseract", file.name, "-", "--psm", "6"], check=True, timeout=60,
+                              capture_output=True, text=True).stdout
+    # The dot of the memory pressure is taken for all sorts of characters, at the end of a line.
+    return [number for line in text.splitlines()
+            if (number := next(iter(re.findall(r"\d+(?:\.\d)?", line)), None))]

@@ -1,0 +1,103 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The status item in the panel that the environment variable ZEPHRINE_HOST names: it can be read
+there, a click opens the dashboard beside it, it outlives the panel, and it goes with the program."""
+import os
+import signal
+import time
+import unittest
+
+import hosts
+from desktop import wait_until
+from load import cpu_load, memory_percent
+from program import DesktopTestCase, changed_box, click, dashboard, start
+from reading import figures
+
+HOST = hosts.BY_NAME[os.environ["ZEPHRINE_HOST"]]
+
+
+class Panel(DesktopTestCase):
+    def shown(self, desktop, empty):
+        """The box on the screen where the item is, or None."""
+        box = changed_box(empty, desktop.picture(HOST.area))
+        if not box:
+            return None
+        left, top = HOST.area[:2]
+        return box[0] + left, box[1] + top, box[2] + left, box[3] + top
+
+    def read(self, desktop, empty):
+        box = self.shown(desktop, empty)
+        return figures(desktop.picture(with_margin(box))) if box else []
+
+    def wait_for_item(self, desktop, empty, timeout=10):
+        """The item's box, as soon as one item can be read, and no more."""
+        wait_until(lambda: len(self.read(desktop, empty)) == 2, timeout, "the item on the screen")
+        return self.shown(desktop, empty)
+
+    def settled(self, desktop):
+        """The panel once it draws nothing new any more."""
+        time.sleep(0.5)
+        while (before := desktop.picture(HOST.area)) != (time.sleep(0.7) or desktop.picture(HOST.area)):
+            pass
+        return before
+
+    def started(self, desktop):
+        """(the panel, the panel without the item, the program, the box of the item)"""
+        panel = HOST.start(desktop)
+        empty = self.settled(desktop)
+        program = start(desktop)
+        return panel, empty, program, self.wait_for_item(desktop, empty)
+
+    def test_its_figures_can_be_read_and_are_right(self):
+        with self.desktop() as desktop:
+            _, empty, _, _ = self.started(desktop)
+
+            def both_are_right():
+                read = self.read(desktop, empty)
+                return (len(read) == 2 and float(read[0]) > 97
+                        and abs(float(read[1]) - memory_percent()) < 1.5)
+
+            with cpu_load(100):
+                wait_until(both_are_right, 30, "a full load and the memory in use on the screen")
+
+    def test_a_click_opens_the_dashboard_beside_it(self):
+        with self.desktop() as desktop:
+            _, _, program, (left, top, right, bottom) = self.started(desktop)
+            click(desktop, ((left + right) // 2, (top + bottom) // 2))
+            _, x, y, width, height = wait_until(lambda: dashboard(desktop, program), 5,
+                                                "the dashboard")
+            self.assertLess(x, right)
+            self.assertLess(left, x + width + 24)
+            self.assertLess(min(abs(y - bottom), abs(top - y - height)), 24)
+            self.assertTrue(0 <= x and x + width <= 1000 and 0 <= y and y + height <= 760)
+
+    def test_it_outlives_the_panel_ten_times(self):
+        with self.desktop() as desktop:
+            panel, empty, program, _ = self.started(desktop)
+            if panel is None:
+                self.skipTest("there is no panel that could end")
+            descriptors = None
+            for _ in range(10):
+                panel.kill()
+                panel.wait()
+                panel = HOST.start(desktop)
+                self.wait_for_item(desktop, empty, timeout=3)
+                count = len(os.listdir(f"/proc/{program.pid}/fd"))
+                descriptors = descriptors or count
+            self.assertLessEqual(count, descriptors)
+
+    def test_it_goes_with_the_program(self):
+        with self.desktop() as desktop:
+            _, empty, program, _ = self.started(desktop)
+            program.send_signal(signal.SIGTERM)
+            self.assertEqual(program.wait(timeout=5), 0)
+            wait_until(lambda: not self.shown(desktop, empty), 3, "the item's end")
+
+
+def with_margin(box, margin=2):
+    left, top, right, bottom = box
+    return max(0, left - margin), max(0, top - margin), right + margin, bottom + margin
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
