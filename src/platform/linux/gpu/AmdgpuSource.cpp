@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // gpu_busy_percent: Documentation/gpu/amdgpu/thermal.rst, "GPU SysFs Power State Interfaces". It
-// fails with EPERM or EBUSY while the card is being reset or suspended, with EOPNOTSUPP on cards
+// fails with EPERM while the card is being reset or suspended, with EOPNOTSUPP on cards
 // without the sensor, and with ENODEV after the card was removed.
 #include "platform/linux/gpu/AmdgpuSource.h"
 
@@ -12,8 +12,8 @@
 
 namespace zephrine {
 
-AmdgpuSource::AmdgpuSource(const std::string& cardPath)
-    : busyPercent_(cardPath + "/device/gpu_busy_percent") {}
+AmdgpuSource::AmdgpuSource(const std::string& device)
+    : busyPercent_(device + "/gpu_busy_percent") {}
 
 std::optional<double> AmdgpuSource::utilization() {
     std::array<char, 64> buffer{};

@@ -2,6 +2,8 @@
 // AMD cards: their firmware measures the load itself, and the driver passes it on.
 #pragma once
 
+#include <string>
+
 #include "platform/linux/base/CounterFile.h"
 #include "platform/linux/gpu/GPUSource.h"
 
@@ -9,7 +11,8 @@ namespace zephrine {
 
 class AmdgpuSource final : public GPUSource {
 public:
-    explicit AmdgpuSource(const std::string& cardPath);
+    /// For the card whose device's folder is `device`.
+    explicit AmdgpuSource(const std::string& device);
 
     std::optional<double> utilization() override;
 

@@ -14,10 +14,7 @@
 namespace zephrine {
 namespace {
 
-constexpr double kIdlePercent = 1;
-constexpr int kIdleReadingsBeforePause = 3;
-
-/// The one line of a small file, read once.
+/// The one line of a small file, read once; empty when it cannot be read.
 std::string readLine(const std::string& path) {
     std::array<char, 64> buffer{};
     auto text = CounterFile(path).read(buffer);
@@ -26,12 +23,10 @@ std::string readLine(const std::string& path) {
 
 }  // namespace
 
-GPUPower::GPUPower(const std::string& cardPath)
-    : cardPath_(cardPath), runtimeStatus_(cardPath + "/device/power/runtime_status") {}
-
-bool GPUPower::mayBeRead(double now) {
-    return isAwake() && now >= pauseEnd_;
-}
+GPUPower::GPUPower(const GraphicsCard& card)
+    : cardPath_(card.path),
+      powerPath_(card.device + "/power/"),
+      runtimeStatus_(powerPath_ + "runtime_status") {}
 
 bool GPUPower::isAwake() {
     std::array<char, 64> buffer{};
@@ -47,36 +42,23 @@ bool GPUPower::isAwake() {
     return line == "active" || line == "unsupported";
 }
 
-void GPUPower::noteUtilization(double percent, double now) {
-    if (percent > kIdlePercent) {
-        idleReadings_ = 0;
-        return;
-    }
-    if (++idleReadings_ < kIdleReadingsBeforePause) {
-        return;
-    }
-    idleReadings_ = 0;
-    const auto delay = autosuspendDelay();
-    if (delay && !drivesDisplay()) {
-        pauseEnd_ = now + *delay + 1;
-    }
-}
-
-/// Seconds; absent when the card never falls asleep by itself.
-std::optional<double> GPUPower::autosuspendDelay() const {
-    const std::string power = cardPath_ + "/device/power/";
-    if (readLine(power + "control") != "auto") {
+std::optional<double> GPUPower::secondsToSleep() const {
+    if (readLine(powerPath_ + "control") != "auto") {
         return std::nullopt;
     }
-    const auto milliseconds = parseUnsigned(readLine(power + "autosuspend_delay_ms"));
+    const std::string delay = readLine(powerPath_ + "autosuspend_delay_ms");
+    if (delay.empty()) {
+        return 0;  // EIO: this driver waits for nothing
+    }
+    const auto milliseconds = parseUnsigned(delay);
     if (!milliseconds) {
         return std::nullopt;  // negative: not by itself
     }
     return static_cast<double>(*milliseconds) / 1000;
 }
 
-/// True when a screen shows this card's picture, which keeps the card awake anyway. A connector
-/// that was never used may call itself on, and one whose screen sleeps may call itself enabled.
+/// A connector that was never used may call itself on, and one whose screen sleeps may call itself
+/// enabled.
 bool GPUPower::drivesDisplay() const {
     const std::string prefix = cardPath_.substr(cardPath_.rfind('/') + 1) + "-";
     std::error_code error;
@@ -90,6 +72,17 @@ bool GPUPower::drivesDisplay() const {
         }
     }
     return false;
+}
+
+bool IdleCount::reaches(double percent) {
+    constexpr double kIdlePercent = 1;
+    constexpr int kReadings = 3;
+    readings_ = percent > kIdlePercent ? 0 : readings_ + 1;
+    if (readings_ < kReadings) {
+        return false;
+    }
+    readings_ = 0;
+    return true;
 }
 
 }  // namespace zephrine

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
-// How busy one graphics card is, by its driver's own account. Each driver has its own small class;
-// `makeGPUSource` knows them all.
+// How busy one graphics card is, by its driver's own account. Each driver has its own small class.
 #pragma once
 
-#include <memory>
 #include <optional>
-#include <string>
-#include <string_view>
 
 namespace zephrine {
 
@@ -14,13 +10,9 @@ class GPUSource {
 public:
     virtual ~GPUSource() = default;
 
-    /// Percent, as the driver gives it, not checked; absent when it cannot be read now. Asked only
-    /// while the card is awake.
+    /// Percent; absent when it cannot be read now. A source that counts busy time has its first
+    /// figure at the second call. Called by one thread at a time, not always the main one.
     virtual std::optional<double> utilization() = 0;
 };
-
-/// The source for a card at `cardPath` (/sys/class/drm/cardN) that `driver` drives; null when that
-/// driver publishes nothing that this program can read.
-std::unique_ptr<GPUSource> makeGPUSource(std::string_view driver, const std::string& cardPath);
 
 }  // namespace zephrine

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Discovery, the rule about sleeping cards, and the drivers' sources brought together.
+// Discovery, and the drivers' sources as services.
 #include "platform/linux/gpu/LinuxGPURegistry.h"
 
 #include <utility>
 
-#include "platform/linux/gpu/DRMCards.h"
-
 namespace zephrine {
 
-LinuxGPURegistry::LinuxGPURegistry(std::string sys, SecondsClock clock)
-    : sys_(std::move(sys)), clock_(std::move(clock)) {}
+LinuxGPURegistry::LinuxGPURegistry(GPUPlaces places, SecondsClock clock)
+    : places_(std::move(places)), clock_(std::move(clock)) {}
 
 std::optional<std::vector<GPUService>> LinuxGPURegistry::IOServiceGetMatchingServices(
     std::string_view name) {
@@ -17,15 +15,13 @@ std::optional<std::vector<GPUService>> LinuxGPURegistry::IOServiceGetMatchingSer
     if (name != "IOAccelerator") {
         return services;
     }
-    const auto found = findDRMCards(sys_);
+    const auto found = findGraphicsCards(places_.sys);
     if (!found) {
         return std::nullopt;
     }
-    for (const DRMCard& card : *found) {
-        // A card whose driver tells nothing is no service: nobody needs to ask it each second.
-        if (auto source = makeGPUSource(card.driver, card.path)) {
-            services.push_back(addCard(card.path, std::move(source)));
-        }
+    // A card whose driver tells nothing is no service: nobody needs to ask it each second.
+    for (auto& source : makeGPUSources(*found, places_, clock_, threads_)) {
+        services.push_back(addCard(std::move(source)));
     }
     return services;
 }
@@ -37,15 +33,10 @@ const Property* LinuxGPURegistry::IORegistryEntryCreateCFProperty(GPUService ser
         return nullptr;
     }
     Card& card = found->second;
-    const double now = clock_();
-    if (!card.power.mayBeRead(now)) {
-        return nullptr;
-    }
-    const auto utilization = card.source->utilization();
+    const auto utilization = read(card);
     if (!utilization) {
         return nullptr;
     }
-    card.power.noteUtilization(*utilization, now);
     *card.utilization = *utilization;
     return &card.statistics;
 }
@@ -54,20 +45,34 @@ void LinuxGPURegistry::IOObjectRelease(GPUService service) {
     cards_.erase(service);
 }
 
-GPUService LinuxGPURegistry::addCard(const std::string& path, std::unique_ptr<GPUSource> source) {
+GPUService LinuxGPURegistry::addCard(std::unique_ptr<GPUSource> source) {
     do {
         ++lastService_;
     } while (lastService_ == 0 || cards_.contains(lastService_));
     Card& card = cards_
-                     .emplace(lastService_, Card{.power = GPUPower(path),
-                                                 .source = std::move(source),
+                     .emplace(lastService_, Card{.source = std::move(source),
                                                  .statistics = PropertyDictionary(),
                                                  .utilization = nullptr})
                      .first->second;
     auto& value = std::get<PropertyDictionary>(card.statistics)["Device Utilization %"];
     value = 0.0;
     card.utilization = &std::get<double>(value);
+    read(card);  // the first figure is dropped, here rather than at the first refresh
     return lastService_;
+}
+
+/// A source that was slow once goes on in the background: the refresh never waits for it again.
+std::optional<double> LinuxGPURegistry::read(Card& card) {
+    constexpr double kSlow = 0.02;
+    if (!card.source) {
+        return std::nullopt;
+    }
+    const double begin = clock_();
+    const auto utilization = card.source->utilization();
+    if (clock_() - begin > kSlow) {
+        card.source = threads_.adopt(std::move(card.source));
+    }
+    return utilization;
 }
 
 }  // namespace zephrine

@@ -5,19 +5,19 @@
 
 #include <map>
 #include <memory>
-#include <string>
 
 #include "platform/GPURegistry.h"
 #include "platform/linux/base/MonotonicClock.h"
-#include "platform/linux/gpu/GPUPower.h"
+#include "platform/linux/gpu/BackgroundSource.h"
 #include "platform/linux/gpu/GPUSource.h"
+#include "platform/linux/gpu/GPUSources.h"
 
 namespace zephrine {
 
 class LinuxGPURegistry final : public GPURegistry {
 public:
-    /// `sys` is where that file system is mounted.
-    explicit LinuxGPURegistry(std::string sys = "/sys", SecondsClock clock = monotonicSeconds);
+    /// `clock` is read on several threads.
+    explicit LinuxGPURegistry(GPUPlaces places = {}, SecondsClock clock = monotonicSeconds);
 
     std::optional<std::vector<GPUService>> IOServiceGetMatchingServices(
         std::string_view name) override;
@@ -27,16 +27,17 @@ public:
 
 private:
     struct Card {
-        GPUPower power;
-        std::unique_ptr<GPUSource> source;
+        std::unique_ptr<GPUSource> source;  ///< null when it had to be given up
         Property statistics;
         double* utilization;  ///< the one entry of `statistics`, updated in place
     };
 
-    GPUService addCard(const std::string& path, std::unique_ptr<GPUSource> source);
+    GPUService addCard(std::unique_ptr<GPUSource> source);
+    std::optional<double> read(Card& card);
 
-    std::string sys_;
+    GPUPlaces places_;
     SecondsClock clock_;
+    BackgroundThreads threads_;
     std::map<GPUService, Card> cards_;
     GPUService lastService_ = 0;
 };

@@ -26,82 +26,80 @@ protected:
         tree.write("card0/card0-eDP-1/enabled", enabled + "\n");
         tree.write("card0/card0-eDP-1/dpms", dpms + "\n");
     }
-    /// True when the card is left alone right after three readings of `percent`.
-    bool pausesAfterThree(double percent) {
-        for (int reading = 0; reading < 3; ++reading) {
-            EXPECT_TRUE(power.mayBeRead(10));
-            power.noteUtilization(percent, 10);
-        }
-        return !power.mayBeRead(10);
-    }
 
     FakeTree tree;
-    GPUPower power{tree.path("card0")};
+    GraphicsCard card{.path = tree.path("card0"),
+                      .device = tree.path("card0/device"),
+                      .driver = "amdgpu",
+                      .address = ""};
+    GPUPower power{card};
 };
 
-TEST_F(GPUPowerTest, ReadsOnlyCardsThatAreAwake) {
-    EXPECT_TRUE(power.mayBeRead(0));
+TEST_F(GPUPowerTest, KnowsWhichCardsAreAwake) {
+    EXPECT_TRUE(power.isAwake());
     for (const char* status : {"suspended", "suspending", "resuming", "error", "", "activeX"}) {
         set("runtime_status", status);
-        EXPECT_FALSE(power.mayBeRead(0)) << status;
+        EXPECT_FALSE(power.isAwake()) << status;
     }
     set("runtime_status", "active");
-    EXPECT_TRUE(power.mayBeRead(0));
+    EXPECT_TRUE(power.isAwake());
 }
 
-TEST_F(GPUPowerTest, ReadsCardsWhosePowerTheKernelDoesNotManage) {
+TEST_F(GPUPowerTest, TakesCardsForAwakeWhosePowerTheKernelDoesNotManage) {
     set("runtime_status", "unsupported");
-    EXPECT_TRUE(power.mayBeRead(0));
+    EXPECT_TRUE(power.isAwake());
     tree.remove("card0/device/power");
-    EXPECT_TRUE(GPUPower(tree.path("card0")).mayBeRead(0));
+    EXPECT_TRUE(GPUPower(card).isAwake());
 }
 
-TEST_F(GPUPowerTest, LeavesACardAloneWhoseStatusCannotBeRead) {
+TEST_F(GPUPowerTest, TakesACardForAsleepWhoseStatusCannotBeRead) {
     tree.remove("card0/device/power/runtime_status");
     ASSERT_EQ(::mkfifo(tree.path("card0/device/power/runtime_status").c_str(), 0600), 0);
-    EXPECT_FALSE(power.mayBeRead(0));
+    EXPECT_FALSE(power.isAwake());
 }
 
-TEST_F(GPUPowerTest, LetsAnIdleCardFallAsleep) {
-    EXPECT_TRUE(pausesAfterThree(0));
-    EXPECT_FALSE(power.mayBeRead(15.9));
-    EXPECT_TRUE(power.mayBeRead(16));
-    power.noteUtilization(0, 16);
-    EXPECT_TRUE(power.mayBeRead(17));
+TEST_F(GPUPowerTest, TellsHowLongACardTakesToFallAsleep) {
+    EXPECT_EQ(power.secondsToSleep(), 5.0);
+    set("autosuspend_delay_ms", "50");
+    EXPECT_EQ(power.secondsToSleep(), 0.05);
 }
 
-TEST_F(GPUPowerTest, KeepsReadingACardThatWorks) {
-    EXPECT_FALSE(pausesAfterThree(2));
-    power.noteUtilization(0, 10);
-    power.noteUtilization(0, 10);
-    power.noteUtilization(50, 10);
-    power.noteUtilization(0, 10);
-    EXPECT_TRUE(power.mayBeRead(10));
+TEST_F(GPUPowerTest, ExpectsACardToSleepAtOnceWhoseDriverHasNoDelay) {
+    tree.remove("card0/device/power/autosuspend_delay_ms");
+    EXPECT_EQ(power.secondsToSleep(), 0.0);
 }
 
-TEST_F(GPUPowerTest, KeepsReadingAnIdleCardThatNeverSleeps) {
-    set("control", "on");
-    EXPECT_FALSE(pausesAfterThree(0));
-    set("control", "auto");
+TEST_F(GPUPowerTest, KnowsThatSomeCardsNeverSleepByThemselves) {
     set("autosuspend_delay_ms", "-1");
-    EXPECT_FALSE(pausesAfterThree(0));
+    EXPECT_EQ(power.secondsToSleep(), std::nullopt);
+    set("autosuspend_delay_ms", "5000");
+    set("control", "on");
+    EXPECT_EQ(power.secondsToSleep(), std::nullopt);
     tree.remove("card0/device/power/control");
-    EXPECT_FALSE(pausesAfterThree(0));
+    EXPECT_EQ(power.secondsToSleep(), std::nullopt);
 }
 
-TEST_F(GPUPowerTest, KeepsReadingAnIdleCardThatDrivesAScreen) {
+TEST_F(GPUPowerTest, KnowsWhetherTheCardDrivesAScreen) {
+    EXPECT_FALSE(power.drivesDisplay());
     setConnector("enabled", "On");
-    EXPECT_FALSE(pausesAfterThree(0));
-}
-
-TEST_F(GPUPowerTest, LetsACardFallAsleepWhoseScreensAreOff) {
+    EXPECT_TRUE(power.drivesDisplay());
     setConnector("enabled", "Off");
-    EXPECT_TRUE(pausesAfterThree(0));
+    EXPECT_FALSE(power.drivesDisplay());
+    setConnector("disabled", "On");
+    EXPECT_FALSE(power.drivesDisplay());
 }
 
-TEST_F(GPUPowerTest, LetsACardFallAsleepThatHasNoScreen) {
-    setConnector("disabled", "On");
-    EXPECT_TRUE(pausesAfterThree(0));
+TEST(IdleCount, IsReachedByThreeIdleReadingsInARow) {
+    IdleCount idle;
+    EXPECT_FALSE(idle.reaches(0));
+    EXPECT_FALSE(idle.reaches(1));
+    EXPECT_TRUE(idle.reaches(0));
+    EXPECT_FALSE(idle.reaches(0));
+    EXPECT_FALSE(idle.reaches(0));
+    EXPECT_FALSE(idle.reaches(2));
+    EXPECT_FALSE(idle.reaches(0));
+    EXPECT_FALSE(idle.reaches(0));
+    EXPECT_TRUE(idle.reaches(0));
 }
 
 }  // namespace

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// The one place where a driver's name leads to its source: a new one goes into the function body.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/linux/base/MonotonicClock.h"
+#include "platform/linux/gpu/BackgroundSource.h"
+#include "platform/linux/gpu/GPUSource.h"
+#include "platform/linux/gpu/GraphicsCards.h"
+#include "platform/linux/gpu/PerfEvent.h"
+
+namespace zephrine {
+
+/// Where the system's parts are; tests put their own there.
+struct GPUPlaces {
+    std::string sys = "/sys";
+    std::string proc = "/proc";
+    std::string nvml = "libnvidia-ml.so.1";
+    PerfOpener openPerf = openPerfEvent;
+};
+
+/// The sources of those cards whose drivers publish something that this program can read. `clock`
+/// is read on several threads.
+std::vector<std::unique_ptr<GPUSource>> makeGPUSources(const std::vector<GraphicsCard>& cards,
+                                                       const GPUPlaces& places,
+                                                       const SecondsClock& clock,
+                                                       BackgroundThreads& threads);
+
+}  // namespace zephrine
