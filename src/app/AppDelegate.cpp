@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "app/Preferences.h"
@@ -51,16 +50,19 @@ void AppDelegate::applicationDidFinishLaunching() {
     resetTimer();
     refresh();
 
-    if (hasArgument("--enable-login")) {
+    for (const std::string_view option : launchOptionsAmong(arguments_)) {
+        performLaunchOption(option);
+    }
+}
+
+void AppDelegate::performLaunchOption(std::string_view option) {
+    if (option == "--enable-login") {
         setLogin(true);
-    }
-    if (hasArgument("--show-dashboard")) {
+    } else if (option == "--show-dashboard") {
         showDashboard();
-    }
-    if (hasArgument("--show-settings")) {
+    } else if (option == "--show-settings") {
         openSettings();
-    }
-    if (hasArgument("--inspect")) {
+    } else if (option == "--inspect") {
         openInspectionWindow();
     }
 }
@@ -104,10 +106,6 @@ double AppDelegate::interval() const {
 
 double AppDelegate::fontSize() const {
     return preferences::fontSize.value(defaults);
-}
-
-bool AppDelegate::hasArgument(const std::string& option) const {
-    return std::find(arguments_.begin(), arguments_.end(), option) != arguments_.end();
 }
 
 }  // namespace zephrine

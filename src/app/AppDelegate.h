@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "dashboard/Dashboard.h"
@@ -35,6 +36,7 @@ public:
 
     // Launch, refresh, wake-up, appearance: AppDelegate.cpp
     void applicationDidFinishLaunching() override;
+    void performLaunchOption(std::string_view option) override;
     void resetTimer();
     void refresh();
     void wokeUp();
@@ -74,7 +76,6 @@ private:
     void finishProcessRefresh(const ProcessTask& task, std::int64_t generation,
                               ProcessSnapshot snapshot);
     void advanceProcessGeneration();
-    [[nodiscard]] bool hasArgument(const std::string& option) const;
 
     Platform& platform_;
     Application& application_;

@@ -34,6 +34,9 @@ void printLoginStatus(Platform& platform) {
 int runApplication(Platform& platform, const std::vector<std::string>& arguments) {
     std::string whyNot;
     Application* application = platform.sharedApplication(whyNot);
+    if (application == nullptr && whyNot.empty()) {
+        return 0;  // the program that runs already does what was asked for
+    }
     if (application == nullptr) {
         std::cerr << "zephrine: " << whyNot << '\n';
         return 1;

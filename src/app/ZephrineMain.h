@@ -13,7 +13,7 @@ struct ZephrineMain {
     /// Runs the self-test, prints the launch-at-login status, or runs the application until it
     /// terminates. `arguments` include the program's own path; options match as whole strings, and
     /// unknown ones are ignored. Returns the exit status: 1 when there is no desktop to show the
-    /// item on, else 0. A failing self-test does not return.
+    /// item on, else 0, also when the program runs already. A failing self-test does not return.
     static int main(Platform& platform, const std::vector<std::string>& arguments);
 };
 

@@ -30,6 +30,8 @@ public:
     virtual Formatting& formatting() = 0;
 
     /// Connects to the desktop. Null when there is none, with the reason, one line, in `whyNot`.
+    /// Null without a reason when the program runs there already and was told what this start asks
+    /// for: then nothing is left to do.
     virtual Application* sharedApplication(std::string& whyNot) = 0;
 };
 

@@ -55,6 +55,28 @@ TEST_F(PanelPresentationTest, OpeningTheProgramAgainShowsThePopoverOrLeavesItOpe
     EXPECT_EQ(controller->processGeneration, generation);
 }
 
+TEST_F(PanelPresentationTest, AnotherStartsOptionsDoWhatTheyDoAtLaunch) {
+    launch();
+    controller->performLaunchOption("--enable-login");
+    EXPECT_EQ(platform.login.registrations, 1);
+    EXPECT_FALSE(popover().shown);
+    controller->performLaunchOption("--show-dashboard");
+    EXPECT_TRUE(popover().shown);
+    controller->performLaunchOption("--show-settings");
+    EXPECT_FALSE(popover().shown);
+    EXPECT_TRUE(application().windowFactory.windows.back()->visible);
+    controller->performLaunchOption("--inspect");
+    EXPECT_EQ(inspectionWindow().title, "Zephrine Dashboard");
+    EXPECT_TRUE(inspectionWindow().visible);
+}
+
+TEST_F(PanelPresentationTest, InspectingAgainReplacesTheInspectionWindow) {
+    launch({"--inspect"});
+    controller->performLaunchOption("--inspect");
+    EXPECT_EQ(&inspectionWindow(), controller->inspectionWindow.get());
+    EXPECT_TRUE(inspectionWindow().visible);
+}
+
 TEST_F(PanelPresentationTest, AnItemWithoutAButtonShowsNothing) {
     application().bar.givesButton = false;
     launch();

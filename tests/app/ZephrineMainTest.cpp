@@ -77,5 +77,12 @@ TEST_F(ZephrineMainTest, SaysInOneLineWhyThereIsNoDesktop) {
     EXPECT_EQ(output, "");
 }
 
+TEST_F(ZephrineMainTest, EndsWellAndWithoutAWordWhenTheProgramRunsAlready) {
+    platform.runsAlready = true;
+    EXPECT_EQ(run({"--show-settings"}), 0);
+    EXPECT_EQ(platform.application.runs, 0);
+    EXPECT_EQ(errors + output, "");
+}
+
 }  // namespace
 }  // namespace zephrine

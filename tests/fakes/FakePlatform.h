@@ -21,6 +21,7 @@ public:
     FakeFormatting texts;
     FakeApplication application;
     bool hasDesktop = true;
+    bool runsAlready = false;
     int applicationsAskedFor = 0;
 
     HostCounters& hostCounters() override { return host; }
@@ -35,7 +36,7 @@ public:
             whyNot = "there is no desktop";
             return nullptr;
         }
-        return &application;
+        return runsAlready ? nullptr : &application;
     }
 };
 

@@ -5,6 +5,8 @@
 #include <QAccessibleWidget>
 #include <QVariant>
 
+#include "platform/qt/widgets/PopUpInterface.h"
+
 namespace zephrine {
 
 namespace {
@@ -24,6 +26,9 @@ public:
 };
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+    if (auto* button = qobject_cast<QComboBox*>(object)) {
+        return new PopUpInterface(*button);
+    }
     auto* widget = qobject_cast<QWidget*>(object);
     const QVariant role = widget != nullptr ? widget->property(roleProperty) : QVariant();
     // Qt takes the result over: see QAccessible::queryAccessibleInterface.

@@ -4,15 +4,13 @@
 #include "platform/qt/DesktopConnection.h"
 
 #include <sys/socket.h>
-#include <sys/un.h>
 #include <xcb/xcb.h>
 
 #include <QDir>
 #include <QLibraryInfo>
 #include <QString>
-#include <cstring>
 
-#include "platform/linux/base/FileDescriptor.h"
+#include "platform/linux/base/UnixSocket.h"
 
 namespace zephrine {
 
@@ -31,16 +29,7 @@ bool reachesXDisplay() {
 }
 
 bool isListening(const QByteArray& socketPath) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    if (socketPath.isEmpty() ||
-        static_cast<std::size_t>(socketPath.size()) >= sizeof address.sun_path) {
-        return false;
-    }
-    std::memcpy(address.sun_path, socketPath.constData(),
-                static_cast<std::size_t>(socketPath.size()));
-    const FileDescriptor client(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    return connect(client.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    return static_cast<bool>(connectToSocket(socketPath.toStdString(), SOCK_STREAM));
 }
 
 QByteArray waylandSocket() {

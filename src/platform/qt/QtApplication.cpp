@@ -29,6 +29,22 @@ int& prepared(int& argumentCount) {
     return argumentCount;
 }
 
+/// Asks the other instance over a connection of its own: the one that is shared by all of Qt wants
+/// an application object.
+bool isTakenOver(const InstancePlace& place, const HandedOptions& options) {
+    const QString name = QStringLiteral("start");
+    const bool done = handOver(QDBusConnection::connectToBus(QDBusConnection::SessionBus, name),
+                               place, options) == Handover::done;
+    QDBusConnection::disconnectFromBus(name);
+    return done;
+}
+
+bool isAnyWindowVisible() {
+    const auto windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(),
+                       [](const auto* window) { return window->isVisible(); });
+}
+
 void setUpLooks() {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     for (const auto effect :
@@ -43,7 +59,7 @@ void setUpLooks() {
 
 }  // namespace
 
-std::unique_ptr<QtApplication> QtApplication::connect(const char* program,
+std::unique_ptr<QtApplication> QtApplication::connect(const std::vector<std::string>& arguments,
                                                       PreferenceStore& preferences,
                                                       std::string& whyNot) {
     const auto platform = findDesktop(whyNot);
@@ -51,20 +67,31 @@ std::unique_ptr<QtApplication> QtApplication::connect(const char* program,
         return nullptr;
     }
     prepareEnvironment(*platform);
-    return std::unique_ptr<QtApplication>(new QtApplication(program, preferences));
+    // The signals first: they wait in every thread that is made later.
+    Start start{.termination = std::make_unique<TerminationSignals>(),
+                .program = arguments.empty() ? "zephrine" : arguments.front(),
+                .options = launchOptionsAmong(arguments),
+                .place = InstancePlace::current(platform->toStdString())};
+    if (isTakenOver(start.place, start.options)) {
+        whyNot.clear();
+        return nullptr;
+    }
+    return std::unique_ptr<QtApplication>(new QtApplication(std::move(start), preferences));
 }
 
-QtApplication::QtApplication(const char* program, PreferenceStore& preferences)
-    : program_(program),
-      arguments_{program_.data(), nullptr},  // Qt understands options that are not ours
+QtApplication::QtApplication(Start start, PreferenceStore& preferences)
+    : start_(std::move(start)),
+      arguments_{start_.program.data(), nullptr},  // Qt understands options that are not ours
       application_(prepared(argumentCount_), arguments_.data()),
       appearance_(Appearance::aqua),
       resumeSignal_([this] { sleepWatcher_.check(); }),
+      logindSignal_(QDBusConnection::systemBus(), [this] { sleepWatcher_.hearOfWakeUp(); }),
       runLoop_([this] { sleepWatcher_.check(); }),
       widgets_(appearance_),
       windows_(appearance_, runLoop_, clickGuard_),
       statusBar_({clickGuard_, appearance_, preferences}),
-      instance_(QDBusConnection::sessionBus(), [this] { reopened(); }) {
+      instance_(QDBusConnection::sessionBus(), start_.place,
+                [this](std::string_view option) { openedAgain(option); }) {
     // Qt has taken the user's locale over for the whole process; numbers in texts that the program
     // formats itself keep their decimal point.
     std::setlocale(LC_NUMERIC, "C");
@@ -73,7 +100,7 @@ QtApplication::QtApplication(const char* program, PreferenceStore& preferences)
     QApplication::setDesktopFileName(QStringLiteral("zephrine"));
     setUpLooks();
     installAccessibility();
-    signals_.deliverTo([this] { terminate(); });
+    start_.termination->deliverTo([this] { terminate(); });
     const auto applyPalette = [this] {
         const QPalette palette = makePalette(appearance_.current());
         QApplication::setPalette(palette);
@@ -85,7 +112,7 @@ QtApplication::QtApplication(const char* program, PreferenceStore& preferences)
 }
 
 void QtApplication::run() {
-    if (!std::exchange(terminated_, false) && instance_.claim()) {
+    if (!std::exchange(terminated_, false) && instance_.claim(start_.options)) {
         runLoop_.performOnMain([this] { launched(); });
         QApplication::exec();
         terminated_ = false;
@@ -103,14 +130,15 @@ void QtApplication::terminate() {
     QApplication::exit();
 }
 
-void QtApplication::reopened() {
-    if (delegate_ == nullptr) {
-        return;
-    }
-    const auto windows = QApplication::topLevelWidgets();
-    const bool anyVisible = std::any_of(windows.begin(), windows.end(),
-                                        [](const auto* window) { return window->isVisible(); });
-    delegate_->applicationShouldHandleReopen(anyVisible);
+void QtApplication::openedAgain(std::string_view option) {
+    // Later: whoever asks waits for an answer, and before the launch there is nothing to open.
+    runLoop_.performOnMain([this, option] {
+        if (delegate_ != nullptr && !option.empty()) {
+            delegate_->performLaunchOption(option);
+        } else if (delegate_ != nullptr) {
+            delegate_->applicationShouldHandleReopen(isAnyWindowVisible());
+        }
+    });
 }
 
 void QtApplication::observeDidWake(std::function<void()> handler) {

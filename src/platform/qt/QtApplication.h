@@ -5,11 +5,13 @@
 #include <QApplication>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/Application.h"
 #include "platform/PreferenceStore.h"
 #include "platform/qt/ClickGuard.h"
+#include "platform/qt/LogindSignal.h"
 #include "platform/qt/QtBackgroundWorker.h"
 #include "platform/qt/QtRunLoop.h"
 #include "platform/qt/ResumeSignal.h"
@@ -26,14 +28,16 @@ namespace zephrine {
 
 class QtApplication final : public Application {
 public:
-    /// Null when there is no desktop, with the reason, one line, in `whyNot`. `program` is the
-    /// path that this program was started by; `preferences` outlive the application.
-    static std::unique_ptr<QtApplication> connect(const char* program, PreferenceStore& preferences,
+    /// Null when there is no desktop, with the reason, one line, in `whyNot`; null without a reason
+    /// when another instance runs there and was told what `arguments` ask for. The path that this
+    /// program was started by is the first of them. `preferences` outlive the application.
+    static std::unique_ptr<QtApplication> connect(const std::vector<std::string>& arguments,
+                                                  PreferenceStore& preferences,
                                                   std::string& whyNot);
 
     void setDelegate(ApplicationDelegate& delegate) override { delegate_ = &delegate; }
     void setAccessoryActivationPolicy() override {}  // every window here keeps out of task bars
-    /// Returns at once when the program runs already, which then is opened again.
+    /// Returns at once when another instance was started meanwhile, which then is opened again.
     void run() override;
     void terminate() override;
     void activateIgnoringOtherApps() override {}  // each window asks for itself when it opens
@@ -52,19 +56,26 @@ public:
     SystemAppearance& appearance() { return appearance_; }
 
 private:
-    QtApplication(const char* program, PreferenceStore& preferences);
+    /// What a start of the program comes with.
+    struct Start {
+        std::unique_ptr<TerminationSignals> termination;
+        std::string program;
+        HandedOptions options;
+        InstancePlace place;
+    };
+    QtApplication(Start start, PreferenceStore& preferences);
 
     void launched();
-    void reopened();
+    void openedAgain(std::string_view option);
 
-    TerminationSignals signals_;  // first: they wait in every thread that is made later
-    std::string program_;
+    Start start_;
     std::vector<char*> arguments_;
     int argumentCount_ = 1;
     QApplication application_;
     SystemAppearance appearance_;
     SleepWatcher sleepWatcher_;
     ResumeSignal resumeSignal_;
+    LogindSignal logindSignal_;
     QtRunLoop runLoop_;
     ClickGuard clickGuard_;
     QtTextMeasure textMeasure_;

@@ -6,13 +6,13 @@ namespace zephrine {
 
 Application* QtPlatform::sharedApplication(std::string& whyNot) {
     if (!application_) {
-        application_ = QtApplication::connect(program_.c_str(), preferenceStore(), whyNot);
+        application_ = QtApplication::connect(arguments_, preferenceStore(), whyNot);
     }
     return application_.get();
 }
 
 std::unique_ptr<Platform> makePlatform(int& argc, char** argv) {
-    return std::make_unique<QtPlatform>(argc > 0 ? argv[0] : "zephrine");
+    return std::make_unique<QtPlatform>(std::vector<std::string>(argv, argv + argc));
 }
 
 }  // namespace zephrine

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/Platform.h"
 #include "platform/linux/counters/LinuxHostCounters.h"
@@ -21,8 +22,8 @@ namespace zephrine {
 
 class QtPlatform final : public Platform {
 public:
-    /// `program` is the path that this program was started by.
-    explicit QtPlatform(std::string program) : program_(std::move(program)) {}
+    /// `arguments` are the program's, the path that it was started by first.
+    explicit QtPlatform(std::vector<std::string> arguments) : arguments_(std::move(arguments)) {}
 
     HostCounters& hostCounters() override { return made(hostCounters_); }
     GPURegistry& gpuRegistry() override { return made(gpuRegistry_); }
@@ -39,7 +40,7 @@ private:
         return service ? *service : service.emplace();
     }
 
-    std::string program_;
+    std::vector<std::string> arguments_;
     std::optional<LinuxHostCounters> hostCounters_;
     std::optional<LinuxGPURegistry> gpuRegistry_;
     std::optional<LinuxProcessTable> processTable_;

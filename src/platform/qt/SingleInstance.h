@@ -1,38 +1,39 @@
 // SPDX-License-Identifier: MIT
-// One running program a session: the first owns its name on the session bus and offers
-// org.freedesktop.Application there; a second one asks it to come forward and ends.
+// One running program a session: the first one holds a name on the session bus, or listens at a
+// socket where there is no bus. A later start hands over what it was asked for and ends.
 #pragma once
 
 #include <QDBusConnection>
-#include <QObject>
-#include <QString>
-#include <QStringList>
-#include <QVariantMap>
-#include <functional>
+#include <optional>
+
+#include "platform/qt/instance/Handover.h"
+#include "platform/qt/instance/InstanceBus.h"
+#include "platform/qt/instance/InstancePlace.h"
+#include "platform/qt/instance/InstanceSocket.h"
 
 namespace zephrine {
 
-class SingleInstance final : public QObject {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+/// Hands `options` to the instance that runs at `place`. Needs no application object, so that a
+/// start that is not needed ends before anything is made.
+Handover handOver(const QDBusConnection& bus, const InstancePlace& place,
+                  const HandedOptions& options);
 
+class SingleInstance {
 public:
-    /// `reopened` is called each time that the program is opened again.
-    SingleInstance(QDBusConnection bus, std::function<void()> reopened);
+    SingleInstance(const QDBusConnection& bus, InstancePlace place, HandoverReceiver receiver);
 
-    /// True when this is the first instance. Otherwise the first one has been told. Without a
-    /// session bus nobody can be found, and every instance is the first.
-    [[nodiscard]] bool claim();
-
-    // The methods of https://specifications.freedesktop.org/desktop-entry-spec (D-Bus activation).
-    Q_SCRIPTABLE Q_SLOT void Activate(const QVariantMap& platformData);
-    Q_SCRIPTABLE Q_SLOT void Open(const QStringList& uris, const QVariantMap& platformData);
-    Q_SCRIPTABLE Q_SLOT void ActivateAction(const QString& name, const QVariantList& parameter,
-                                            const QVariantMap& platformData);
+    /// Takes the place. False when another instance was faster and `options` are handed over to it.
+    /// One that does not answer is no reason not to run.
+    [[nodiscard]] bool claim(const HandedOptions& options);
 
 private:
+    [[nodiscard]] bool takePlace();
+
     QDBusConnection bus_;
-    std::function<void()> reopened_;
+    InstancePlace place_;
+    InstanceBus onBus_;
+    InstanceSocket atSocket_;
+    bool isTaken_ = false;
 };
 
 }  // namespace zephrine

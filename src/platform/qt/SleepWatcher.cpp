@@ -36,6 +36,18 @@ void SleepWatcher::check() {
         return;
     }
     known_ = asleep;
+    reported_ = true;
+    report();
+}
+
+void SleepWatcher::hearOfWakeUp() {
+    check();
+    if (!std::exchange(reported_, false)) {
+        report();
+    }
+}
+
+void SleepWatcher::report() {
     const auto handlers = handlers_;
     for (const auto& handler : handlers) {
         handler();

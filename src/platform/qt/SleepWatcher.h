@@ -23,12 +23,17 @@ public:
     /// `handler` is called by the first check after each sleep of more than half a second.
     void observe(std::function<void()> handler);
     void check();
+    /// For somebody who knows of a wake-up by other means than these clocks: the handlers are
+    /// called, unless a check has told them of this sleep already.
+    void hearOfWakeUp();
 
 private:
+    void report();
     [[nodiscard]] Time timeAsleep() const;
 
     Clocks clocks_;
     Time known_;
+    bool reported_ = false;  ///< by the clocks, since somebody was last heard
     std::vector<std::function<void()>> handlers_;
 };
 

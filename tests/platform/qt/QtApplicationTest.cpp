@@ -25,6 +25,7 @@ struct Delegate : ApplicationDelegate {
         ++reopened;
         return false;
     }
+    void performLaunchOption(std::string_view /*option*/) override {}
 };
 
 struct QtApplicationSignalTest : testing::TestWithParam<int> {};

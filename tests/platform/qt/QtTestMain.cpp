@@ -20,10 +20,12 @@ zephrine::QtApplication& zephrine::testApplication() {
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");  // the user's own is no business of tests
+    // The user's own are no business of tests.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "disabled:");
     zephrine::FakePreferenceStore preferences;
     std::string whyNot;
-    const auto owned = zephrine::QtApplication::connect(argv[0], preferences, whyNot);
+    const auto owned = zephrine::QtApplication::connect({argv[0]}, preferences, whyNot);
     if (!owned) {
         std::fprintf(stderr, "%s\n", whyNot.c_str());
         return 1;

@@ -60,6 +60,26 @@ TEST_F(SleepWatcherTest, DoesNotTakeABusyMachineForASleepingOne) {
     EXPECT_EQ(wakeUps, 0);
 }
 
+TEST_F(SleepWatcherTest, BelievesSomebodyElseWhereTheClocksShowNoSleep) {
+    watcher.hearOfWakeUp();
+    watcher.hearOfWakeUp();
+    EXPECT_EQ(wakeUps, 2);
+}
+
+TEST_F(SleepWatcherTest, TellsOnceOfASleepThatSomebodyElseTellsOfToo) {
+    for (int sleep = 1; sleep <= 3; ++sleep) {
+        asleep += std::chrono::seconds(20);
+        watcher.check();
+        watcher.hearOfWakeUp();
+        watcher.check();
+        EXPECT_EQ(wakeUps, sleep);
+    }
+    asleep += std::chrono::seconds(20);
+    watcher.hearOfWakeUp();  // before the clocks were looked at
+    watcher.check();
+    EXPECT_EQ(wakeUps, 4);
+}
+
 TEST(SleepWatcher, SeesNoSleepInTheClocksOfThisMachine) {
     int wakeUps = 0;
     SleepWatcher watcher;

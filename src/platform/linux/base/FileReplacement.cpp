@@ -31,12 +31,16 @@ std::string nameOf(const std::string& path) {
     return path.substr(path.rfind('/') + 1);
 }
 
-void makeFolders(const std::string& folder) {
+/// False, with the reason in errno, when a folder is missing and cannot be made.
+bool makeFolders(const std::string& folder) {
     for (std::size_t end = 1; end != std::string::npos && end < folder.size();) {
         end = folder.find('/', end);
-        ::mkdir(folder.substr(0, end).c_str(), S_IRWXU);
+        if (::mkdir(folder.substr(0, end).c_str(), S_IRWXU) != 0 && errno != EEXIST) {
+            return false;
+        }
         end = end == std::string::npos ? end : end + 1;
     }
+    return true;
 }
 
 FileDescriptor openFolder(const std::string& folder) {
@@ -106,8 +110,8 @@ bool replaceFile(const std::string& path, std::string_view contents) {
     if (!target) {
         return false;
     }
-    makeFolders(folderOf(*target));
-    const FileDescriptor folder = openFolder(folderOf(*target));
+    const bool exists = makeFolders(folderOf(*target));
+    const FileDescriptor folder = exists ? openFolder(folderOf(*target)) : FileDescriptor();
     const std::string name = nameOf(*target);
     const std::string temporary = name + ".new";
     const FileDescriptor file = folder ? createTemporary(folder, temporary) : FileDescriptor();

@@ -45,17 +45,26 @@ std::string stringValue(std::string_view text) {
     return value;
 }
 
+/// The lines that name `program`. GLib looks for a program before it undoes the doubling of percent
+/// signs, and finds none that has one in its path: there it starts env, which has none, and the
+/// program is named once more, by the key whose value is a plain path.
+std::string programLines(std::string_view program) {
+    const std::string argument = stringValue(quotedArgument(program));
+    return program.find('%') == std::string_view::npos
+               ? "Exec=" + argument + '\n'
+               : "TryExec=" + stringValue(program) + "\nExec=env " + argument + '\n';
+}
+
 }  // namespace
 
 std::string autostartEntry(std::string_view program) {
+    // The oldest version that has all of these keys: newer ones are unknown to older validators.
     return "[Desktop Entry]\n"
            "Type=Application\n"
-           "Version=1.5\n"
+           "Version=1.0\n"
            "Name=Zephrine\n"
-           "Comment=CPU and memory in the status bar\n"
-           "Exec=" +
-           stringValue(quotedArgument(program)) +
-           "\n"
+           "Comment=CPU and memory in the status bar\n" +
+           programLines(program) +
            "Icon=zephrine\n"
            "Terminal=false\n"
            "X-GNOME-Autostart-enabled=true\n";

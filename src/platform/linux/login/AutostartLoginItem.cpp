@@ -54,8 +54,22 @@ bool isExecutableFile(const std::string& path) {
 }  // namespace
 
 AutostartEnvironment AutostartEnvironment::current() {
-    return {zephrine::configHome(), environmentVariable("XDG_CURRENT_DESKTOP"),
-            environmentVariable("PATH"), ownProgram()};
+    std::string program = ownProgram();
+    std::string sandbox = sandboxOf(program, environmentVariable("SNAP"), "/.flatpak-info");
+    return {.configHome = zephrine::configHome(),
+            .currentDesktop = environmentVariable("XDG_CURRENT_DESKTOP"),
+            .searchPath = environmentVariable("PATH"),
+            .program = std::move(program),
+            .sandbox = std::move(sandbox)};
+}
+
+std::string sandboxOf(const std::string& program, const std::string& snap,
+                      const char* flatpakInfo) {
+    if (::access(flatpakInfo, F_OK) == 0) {
+        return "Flatpak";
+    }
+    // The variable alone says little: programs that a snap starts inherit it.
+    return !snap.empty() && program.starts_with(snap + '/') ? "Snap" : "";
 }
 
 AutostartLoginItem::AutostartLoginItem(AutostartEnvironment environment)
@@ -66,7 +80,7 @@ std::string AutostartLoginItem::path() const {
 }
 
 LoginItemStatus AutostartLoginItem::status() const {
-    if (environment_.configHome.empty()) {
+    if (environment_.configHome.empty() || !environment_.sandbox.empty()) {
         return LoginItemStatus::notFound;
     }
     const FileDescriptor file(::open(path().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
@@ -86,6 +100,11 @@ LoginItemStatus AutostartLoginItem::status() const {
 }
 
 std::optional<std::string> AutostartLoginItem::registerItem() {
+    if (!environment_.sandbox.empty()) {
+        return environment_.sandbox +
+               " keeps Zephrine from its login items. Add Zephrine to the startup applications in "
+               "the settings of your desktop.";
+    }
     if (environment_.configHome.empty()) {
         return "There is no home folder to keep the entry in.";
     }
@@ -99,8 +118,8 @@ std::optional<std::string> AutostartLoginItem::registerItem() {
 }
 
 std::optional<std::string> AutostartLoginItem::unregisterItem() {
-    if (environment_.configHome.empty() || ::unlink(path().c_str()) == 0 || errno == ENOENT ||
-        errno == ENOTDIR) {
+    if (environment_.configHome.empty() || !environment_.sandbox.empty() ||
+        ::unlink(path().c_str()) == 0 || errno == ENOENT || errno == ENOTDIR) {
         return std::nullopt;
     }
     return path() + ": " + systemsWords(errno);

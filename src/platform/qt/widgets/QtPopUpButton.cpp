@@ -2,6 +2,7 @@
 // The closed button is painted like the others; the list that it opens is the toolkit's.
 #include "platform/qt/widgets/QtPopUpButton.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QPainter>
 #include <utility>
@@ -68,6 +69,11 @@ private:
 QtPopUpButton::QtPopUpButton(const SystemAppearance& appearance,
                              const std::vector<std::string>& titles)
     : QtView(std::make_unique<PopUpWidget>(appearance, titles)) {
+    QObject::connect(&static_cast<QComboBox&>(widget()), &QComboBox::currentIndexChanged, &widget(),
+                     [this] {
+                         QAccessibleEvent event(&widget(), QAccessible::DescriptionChanged);
+                         QAccessible::updateAccessibility(&event);
+                     });
     QObject::connect(&static_cast<QComboBox&>(widget()), &QComboBox::activated, &widget(), [this] {
         const auto action = action_;  // it may destroy the button
         if (action) {

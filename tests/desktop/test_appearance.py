@@ -1,0 +1,78 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Light and dark: the item and the windows follow the desktop's choice while they are open."""
+import unittest
+
+from PIL import ImageStat
+
+import mocks
+import settings
+from desktop import wait_until
+from program import DesktopTestCase, dashboard, start, strip
+
+NOTHING, DARK, LIGHT = 0, 1, 2
+
+
+def is_dark(desktop, window):
+    """Whether most of a window is dark; the text on it then is light."""
+    _, left, top, width, height = window
+    picture = desktop.picture((left, top, left + width, top + height)).convert("L")
+    return ImageStat.Stat(picture).median[0] < 128
+
+
+def has_legible_text(desktop, window):
+    _, left, top, width, height = window
+    low, high = desktop.picture((left, top, left + width, top + height)).convert("L").getextrema()
+    return low < 60 and high > 200
+
+
+class AppearanceTest(DesktopTestCase):
+    def assert_all_become(self, desktop, shown, dark):
+        for name, find in shown.items():
+            wait_until(lambda: (window := find()) and is_dark(desktop, window) is dark
+                       and has_legible_text(desktop, window), 2,
+                       f"{name}, {'dark' if dark else 'light'}, with text to be read")
+
+    def test_everything_follows_while_it_is_on_screen(self):
+        with self.desktop() as desktop, mocks.Portal(desktop, LIGHT) as portal:
+            # So seldom that what changes at once is no refresh.
+            settings.store(desktop, refreshInterval=5)
+            program = start(desktop, "--show-settings", "--inspect")
+            settings.wait_for_window(desktop, program)
+            shown = {"the item": lambda: strip(desktop, program),
+                     "the settings": lambda: settings.window(desktop, program),
+                     "the dashboard": lambda: dashboard(desktop, program)}
+            window, *_ = settings.wait_for_window(desktop, program)
+            desktop.run("xdotool", "windowmove", "--sync", window, "5", "200")  # off the dashboard
+            self.assert_all_become(desktop, shown, dark=False)
+            for scheme in (DARK, LIGHT, DARK, NOTHING):
+                portal.prefer(scheme)
+                self.assert_all_become(desktop, shown, dark=scheme == DARK)
+
+    def test_the_popover_follows_while_it_is_open(self):
+        with self.desktop() as desktop, mocks.Portal(desktop, LIGHT) as portal:
+            program = start(desktop, "--show-dashboard")
+            shown = {"the dashboard": lambda: dashboard(desktop, program)}
+            self.assert_all_become(desktop, shown, dark=False)
+            portal.prefer(DARK)
+            self.assert_all_become(desktop, shown, dark=True)
+
+    def test_a_dark_desktop_is_dark_from_the_start(self):
+        with self.desktop() as desktop, mocks.Portal(desktop, DARK) as portal:
+            program = start(desktop)
+            item = {"the item": lambda: strip(desktop, program)}
+            self.assert_all_become(desktop, item, dark=True)
+            portal.process.kill()
+            self.assertEqual(start(desktop, "--show-settings").wait(timeout=10), 0)
+            later = {"the settings": lambda: settings.window(desktop, program)}
+            self.assert_all_become(desktop, item | later, dark=True)
+
+    def test_without_a_portal_it_is_light(self):
+        with self.desktop() as desktop:
+            program = start(desktop)
+            self.assert_all_become(desktop, {"the item": lambda: strip(desktop, program)},
+                                   dark=False)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

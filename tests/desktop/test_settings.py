@@ -1,0 +1,212 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The settings window under a real panel: each choice is stored and seen in the item at once."""
+import contextlib
+import time
+import unittest
+
+import accessibility
+import hosts
+import settings
+from bus import Bus
+from desktop import wait_until
+from load import cpu_load
+from program import (DesktopTestCase, dashboard, press_keys, start, strip, wait_for_item,
+                     wait_for_text)
+
+PANEL = (0, 0, 1000, 28)
+
+
+class SettingsTestCase(DesktopTestCase):
+    @contextlib.contextmanager
+    def opened(self, interval="5 seconds"):
+        """The window is open; by default figures come so seldom that what changes is a choice's."""
+        with self.desktop() as self.desk, Bus(self.desk.bus_address) as self.bus:
+            accessibility.enable(self.desk)
+            hosts.xfce(self.desk)
+            self.program = start(self.desk, "--show-settings")
+            self.item = wait_for_item(self.bus, self.program)
+            wait_for_text(self.item)
+            settings.wait_for_window(self.desk, self.program)
+            if interval:
+                self.choose("Refresh interval", interval)
+            yield
+
+    def choose(self, row, item):
+        settings.choose(self.desk, self.program, row, item)
+
+    def is_stored(self, key, value):
+        return settings.is_stored(self.desk, key, value)
+
+    def wait_for_refresh(self):
+        """After this, nothing but a choice changes the item for some seconds."""
+        before = self.panel()
+        with cpu_load(100):
+            wait_until(lambda: self.panel() != before, 20, "new figures")
+
+    def panel(self):
+        return self.desk.picture(PANEL)
+
+    def assert_choice_is_seen(self, row, item):
+        self.wait_for_refresh()
+        before = self.panel()
+        self.choose(row, item)
+        wait_until(lambda: self.panel() != before, 3, f"{row}: {item} in the panel")
+
+    def changes_of_text(self, most, seconds):
+        """How often the item says something new in that time, counted up to `most`."""
+        count, last = 0, self.item.text()[0]
+        end = time.monotonic() + seconds
+        while count < most and time.monotonic() < end:
+            time.sleep(0.05)
+            text = self.item.text()[0]
+            count += text != last
+            last = text
+        return count
+
+    def elements(self):
+        return settings.elements(self.desk, self.program)
+
+    def spoken(self, role):
+        return {e["name"]: e for e in self.elements() if e["role"] == role}
+
+    def login_line(self):
+        return settings.login_line(self.desk, self.program)
+
+
+class Settings(SettingsTestCase):
+    def test_memory_is_shown_as_chosen(self):
+        with self.opened():
+            self.assert_choice_is_seen("RAM display", "Gigabytes")
+            self.assertTrue(self.is_stored("ramInGB", True))
+            self.assert_choice_is_seen("RAM display", "Percentage")
+            self.assertTrue(self.is_stored("ramInGB", False))
+
+    def test_figures_come_at_the_interval_chosen(self):
+        with self.opened():
+            self.assertTrue(self.is_stored("refreshInterval", ("int", "5")))
+            with cpu_load(50):
+                self.assertLessEqual(self.changes_of_text(8, seconds=6), 2)
+            self.choose("Refresh interval", "0.5 seconds")
+            self.assertTrue(self.is_stored("refreshInterval", ("float", "0.5")))
+            with cpu_load(50):
+                self.assertEqual(self.changes_of_text(8, seconds=15), 8)
+            for item, value in (("1 second", ("float", "1.0")), ("2 seconds", ("int", "2"))):
+                self.choose("Refresh interval", item)
+                self.assertTrue(self.is_stored("refreshInterval", value))
+
+    def test_nothing_is_stored_before_a_choice(self):
+        with self.opened(interval=None):
+            self.assertIsNone(settings.stored(self.desk))
+
+    def test_the_next_start_opens_on_the_choices(self):
+        with self.opened():
+            self.choose("RAM display", "Gigabytes")
+            self.choose("Menu bar text", "Large")
+            self.program.terminate()
+            self.assertEqual(self.program.wait(timeout=5), 0)
+            self.program = start(self.desk, "--show-settings")
+            settings.wait_for_window(self.desk, self.program)
+            chosen = wait_until(lambda: self.spoken("combo box"), 5, "the settings' elements")
+            self.assertEqual({name: e["description"] for name, e in chosen.items()},
+                             {"RAM display": "Gigabytes", "Menu bar text": "Large",
+                              "Refresh interval": "5 seconds"})
+
+    def test_it_opens_from_the_dashboard_which_then_closes(self):
+        with self.opened(interval=None):
+            press_keys(self.desk, "alt+F4")
+            wait_until(lambda: not settings.window(self.desk, self.program), 5, "its end")
+            self.item.activate(0, 0)
+            wait_until(lambda: dashboard(self.desk, self.program), 5, "the dashboard")
+            accessibility.act(self.desk, self.program, "push button", "Settings…", "Press")
+            settings.wait_for_window(self.desk, self.program)
+            wait_until(lambda: not dashboard(self.desk, self.program), 5, "the dashboard's end")
+
+    def test_there_is_one_window_that_stays_where_the_user_put_it(self):
+        with self.opened(interval=None):
+            window, left, top, *size = settings.wait_for_window(self.desk, self.program)
+            self.assertEqual(tuple(size), settings.SIZE)
+            self.desk.run("xdotool", "windowmove", "--sync", window, str(left - 90), str(top + 70))
+            moved = settings.wait_for_window(self.desk, self.program)
+            press_keys(self.desk, "alt+F4")
+            wait_until(lambda: not settings.window(self.desk, self.program), 5, "its end")
+            for _ in range(2):
+                again = start(self.desk, "--show-settings")
+                self.assertEqual(again.wait(timeout=10), 0)
+                self.assertEqual(settings.wait_for_window(self.desk, self.program)[1:], moved[1:])
+            self.assertEqual(len(settings.titled(self.desk, self.program, settings.TITLE)), 1)
+
+    def test_the_box_registers_the_program_and_unregisters_it(self):
+        with self.opened(interval=None):
+            entry = self.desk.config / "autostart/zephrine.desktop"
+            self.assertEqual(self.login_line(), "Start manually whenever you need it.")
+            settings.tick_login(self.desk, self.program)
+            wait_until(entry.exists, 5, "the entry")
+            wait_until(lambda: self.login_line() == "Ready when you sign in.", 5, "the line")
+            settings.tick_login(self.desk, self.program)
+            wait_until(lambda: not entry.exists(), 5, "the entry's end")
+
+    def test_a_switched_off_entry_is_shown_as_needing_approval(self):
+        with self.opened(interval=None):
+            settings.tick_login(self.desk, self.program)
+            entry = self.desk.config / "autostart/zephrine.desktop"
+            wait_until(entry.exists, 5, "the entry")
+            entry.write_text("[Desktop Entry]\nHidden=true\n", encoding="utf-8")
+            self.assertEqual(start(self.desk, "--show-settings").wait(timeout=10), 0)
+            wait_until(lambda: self.login_line() ==
+                       "Approve Zephrine in System Settings → Login Items.", 5, "the line")
+            box = self.spoken("check box")["Launch Zephrine at login"]
+            self.assertIn("checked", box["states"])
+
+
+class TextSize(DesktopTestCase):
+    def test_the_text_has_the_size_chosen(self):
+        # In the strip: panels that squeeze every item into a square leave the text no choice.
+        with self.desktop() as desktop:
+            accessibility.enable(desktop)
+            program = start(desktop, "--show-settings")
+            wait_until(lambda: strip(desktop, program), 10, "the strip")
+            widths = [0]
+            for item, value in (("Small", ("float", "8.0")), ("Medium", ("int", "9")),
+                                ("Large", ("int", "10"))):
+                settings.choose(desktop, program, "Menu bar text", item)
+                self.assertTrue(settings.is_stored(desktop, "fontSize", value))
+                wait_until(lambda: strip(desktop, program)[3] > widths[-1], 5, "a wider strip")
+                widths.append(strip(desktop, program)[3])
+
+
+class KeyboardOnly(SettingsTestCase):
+    def focused(self):
+        return next((e["name"] for e in self.elements()
+                     if e["role"] in ("check box", "combo box") and "focused" in e["states"]), None)
+
+    def tab_to(self, name):
+        for _ in range(5):
+            if self.focused() == name:
+                return
+            press_keys(self.desk, "Tab")
+            wait_until(self.focused, 5, "an element with the keyboard")
+        self.fail(f"{name} cannot be reached")
+
+    def test_everything_can_be_chosen(self):
+        with self.opened(interval=None):
+            entry = self.desk.config / "autostart/zephrine.desktop"
+            self.tab_to("Launch Zephrine at login")
+            press_keys(self.desk, "space")
+            wait_until(entry.exists, 5, "the entry")
+
+            self.tab_to("RAM display")
+            press_keys(self.desk, "Down")
+            wait_until(lambda: self.is_stored("ramInGB", True), 5, "gigabytes")
+
+            self.tab_to("Menu bar text")
+            press_keys(self.desk, "space", "Down", "Return")
+            wait_until(lambda: self.is_stored("fontSize", ("int", "10")), 5, "large text")
+
+            self.tab_to("Refresh interval")
+            press_keys(self.desk, "Up")
+            wait_until(lambda: self.is_stored("refreshInterval", ("float", "0.5")), 5, "0.5 s")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
