@@ -35,6 +35,7 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
     : services_(services),
       item_(bus, [this] { panelClicked(); }),
       menu_(bus, [this] { panelClicked(); }),
+      files_(pictureFolder()),
       strip_(services.preferences),
       probe_(x11Connection()),
       panelAppearance_(probe_, [] { return std::chrono::steady_clock::now(); }),
@@ -129,7 +130,7 @@ void QtStatusItemButton::placeChanged() {
 
 void QtStatusItemButton::show() {
     if (host_) {
-        item_.setPixmaps(pixmapsForHost(formOfHost(host_->command), image_, drawnFor_));
+        item_.setFace(faceForHost(formOfHost(*host_), image_, drawnFor_, files_));
     }
     if (!isInPanel_) {
         tray_.setPicture(image_, drawnFor_);

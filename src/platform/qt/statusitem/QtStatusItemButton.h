@@ -19,6 +19,7 @@
 #include "platform/qt/statusitem/PanelAppearance.h"
 #include "platform/qt/statusitem/StatusStrip.h"
 #include "platform/qt/statusitem/X11PanelProbe.h"
+#include "platform/qt/statusitem/forms/FileForm.h"
 #include "platform/qt/statusitem/tray/TrayItem.h"
 
 namespace zephrine {
@@ -54,6 +55,7 @@ private:
     StatusItemServices services_;
     NotifierItem item_;
     NotifierMenu menu_;
+    PictureFiles files_;
     TrayItem tray_;
     StatusStrip strip_;
     X11PanelProbe probe_;
