@@ -63,7 +63,8 @@ QtApplication::QtApplication(const char* program, PreferenceStore& preferences)
       runLoop_([this] { sleepWatcher_.check(); }),
       widgets_(appearance_),
       windows_(appearance_, runLoop_, clickGuard_),
-      statusBar_({clickGuard_, appearance_, preferences}),
+      statusBar_(
+          {clickGuard_, appearance_, preferences, [this] { delegate_->performLaunchOption("--show-settings"); }, [this] { terminate(); }}),
       instance_(QDBusConnection::sessionBus(), [this] { reopened(); }) {
     // Qt has taken the user's locale over for the whole process; numbers in texts that the program
     // formats itself keep their decimal point.

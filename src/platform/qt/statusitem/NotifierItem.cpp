@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The interface org.kde.StatusNotifierItem. Every property of it is always there: a panel that
-// misses one guesses (without ItemIsMenu some never send a click) or fills its log.
+// The interface org.kde.StatusNotifierItem. Its properties are always there: a panel that misses
+// one guesses (without ItemIsMenu some never send a click) or fills its log.
 #include "platform/qt/statusitem/NotifierItem.h"
 
 #include <QDBusMessage>
@@ -137,7 +137,7 @@ bool NotifierItem::handleMessage(const QDBusMessage& message, const QDBusConnect
 
 QVariantMap NotifierItem::properties() const {
     const QVariant noPixmaps = QVariant::fromValue(NotifierPixmaps());
-    return {
+    QVariantMap all{
         {"Category", "SystemServices"},
         {"Id", "zephrine"},
         {"Title", "Zephrine"},
@@ -155,10 +155,13 @@ QVariantMap NotifierItem::properties() const {
         {"AttentionIconPixmap", noPixmaps},
         {"AttentionMovieName", ""},
         {"AttentionAccessibleDesc", ""},
-        {"XAyatanaLabel", face_.label},
-        {"XAyatanaLabelGuide", face_.label},
         {"ToolTip", QVariant::fromValue(NotifierToolTip{toolTip_})},
     };
+    if (!face_.label.isEmpty()) {  // MATE shows the label in place of the picture, an empty one too
+        all.insert("XAyatanaLabel", face_.label);
+        all.insert("XAyatanaLabelGuide", face_.label);
+    }
+    return all;
 }
 
 void NotifierItem::announce(const QString& signal, const QVariantList& arguments) const {

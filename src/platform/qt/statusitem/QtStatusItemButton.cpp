@@ -34,7 +34,9 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
                                        const StatusItemServices& services)
     : services_(services),
       item_(bus, [this] { panelClicked(); }),
-      menu_(bus, [this] { panelClicked(); }),
+      menu_(bus, {.open = [this] { panelClicked(); },
+                  .settings = [this] { performLater(services_.openSettings); },
+                  .quit = [this] { performLater(services_.quit); }}),
       files_(pictureFolder()),
       strip_(services.preferences),
       probe_(x11Connection()),
@@ -103,14 +105,15 @@ void QtStatusItemButton::panelClicked() {
     }
     clickIsQueued_ = true;
     lastClick_ = pointerRect();
-    // Later, because the bus connection's thread waits until the panel's call is through.
+    performLater([this] {
+        clickIsQueued_ = false;
+        clicked();
+    });
+}
+
+void QtStatusItemButton::performLater(std::function<void()> action) {
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            clickIsQueued_ = false;
-            clicked();
-        },
-        Qt::QueuedConnection);
+        this, [action = std::move(action)] { action(); }, Qt::QueuedConnection);
 }
 
 void QtStatusItemButton::clicked() {

@@ -29,6 +29,9 @@ struct StatusItemServices {
     const ClickGuard& clickGuard;
     const SystemAppearance& systemAppearance;
     PreferenceStore& preferences;
+    /// What the item's menu offers besides a click.
+    std::function<void()> openSettings;
+    std::function<void()> quit;
 };
 
 class QtStatusItemButton final : public ItemAnchor, public StatusItemButton {
@@ -48,6 +51,8 @@ public:
 
 private:
     void panelClicked();
+    /// Does it once the panel has its answer: the bus connection's thread waits until then.
+    void performLater(std::function<void()> action);
     void clicked();
     void show();
     void placeChanged();

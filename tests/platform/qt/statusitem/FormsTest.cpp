@@ -65,7 +65,7 @@ TEST_F(Forms, GiveALabelBesideASmallSquare) {
     StatusItemImage image = sampleImage();
     image.text = "CPU   5%\nRAM  45%";
     const NotifierFace given = face(HostForm::labelled, image, Appearance::aqua);
-    EXPECT_EQ(given.label, "CPU   5%\nRAM  45%");
+    EXPECT_EQ(given.label, "CPU   5%  RAM  45%") << "on one line";
     EXPECT_EQ(given.iconName, QString());
     EXPECT_EQ(widths(given.pixmaps), std::vector{16});
 }

@@ -25,7 +25,7 @@ QString PictureFiles::write(const Image& picture, Appearance appearance) {
         return {};
     }
     ++turn_;
-    const QString path = folder_ + QStringLiteral("/status-%1.png").arg(turn_ % 2);
+    QString path = folder_ + QStringLiteral("/status-%1.png").arg(turn_ % 2);
     QSaveFile file(path);  // a panel never reads half a picture
     if (!file.open(QIODevice::WriteOnly) || !pixels.save(&file, "PNG") || !file.commit()) {
         return {};

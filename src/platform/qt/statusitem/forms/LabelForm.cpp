@@ -9,7 +9,8 @@ namespace zephrine {
 
 NotifierFace labelledFace(const StatusItemImage& image, Appearance appearance) {
     constexpr double side = 16;
-    NotifierFace face{.label = fromUTF8(image.text)};
+    // GNOME cuts the second of two lines off, where its font is a large one.
+    NotifierFace face{.label = fromUTF8(image.text).replace(u'\n', QStringLiteral("  "))};
     if (image.square) {
         addPixmap(face.pixmaps, renderImage(image.square(side), 1, appearance));
     }

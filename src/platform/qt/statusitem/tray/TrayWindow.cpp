@@ -65,7 +65,7 @@ TrayWindow::~TrayWindow() {
 void TrayWindow::tellEmbedder() {
     xcb_connection_t* const x = connection_.get();
     constexpr std::string_view name = "Zephrine";
-    constexpr std::string_view classes{"zephrine\0Zephrine", 18};
+    constexpr std::string_view classes{"zephrine\0Zephrine\0", 18};
     constexpr std::array<std::uint32_t, 2> info{0, 1};  // version; wants to be mapped
     const auto [infoAtom, nameAtom, utf8] =
         internAtoms<3>(x, {"_XEMBED_INFO", "_NET_WM_NAME", "UTF8_STRING"});
