@@ -23,11 +23,15 @@ test_packages=(
     locales ccache procps python3 strace
 )
 
-# The panels that the status item is tried on, a load to show, and what reads it off the screen.
+# The panels that the status item is tried on, a load to show, and what reads windows: off the
+# screen, out of their properties, and as a screen reader does; then readers of autostart entries, and
+# stand-ins for services.
 # shellcheck disable=SC2034
 panel_packages=(
     lxqt-panel mate-panel libglib2.0-bin trayer tint2
     stress-ng tesseract-ocr tesseract-ocr-eng
+    x11-utils at-spi2-core gir1.2-atspi-2.0 python3-gi
+    dex desktop-file-utils python3-dbusmock
 )
 
 # Checking the macOS back end against declarations: tests/macos/check.

@@ -26,6 +26,7 @@ public:
 
     [[nodiscard]] virtual bool isShown() const = 0;
     /// Opens beside `button`, below it where there is room, above other windows, with the keyboard.
+    /// A content view that stands in a window meanwhile is taken out, and returned on closing.
     virtual void showRelativeTo(StatusItemButton& button) = 0;
     /// Closes it as a user would; does nothing when it is not shown.
     virtual void performClose() = 0;

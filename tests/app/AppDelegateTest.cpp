@@ -144,6 +144,38 @@ TEST_F(AppDelegateTest, DoesNotTouchTheDashboardWhileItIsHidden) {
     EXPECT_EQ(text(controller->dashboard->cpu), "—");
 }
 
+/// How often the dashboard's labels were written to and its graph was asked to draw.
+int dashboardWork(const AppDelegate& controller) {
+    int calls = fake<FakeCanvas>(controller.dashboard->history.canvas()).displaysNeeded;
+    for (const FakeView* child : fake<FakeView>(controller.dashboard->view()).children) {
+        const auto* label = dynamic_cast<const FakeLabel*>(child);
+        calls += label != nullptr ? label->textsSet : 0;
+    }
+    return calls;
+}
+
+TEST_F(AppDelegateTest, DoesNoWorkForAHiddenDashboard) {
+    launch({"--show-dashboard"});
+    finishCapture();
+    const int whileOpening = dashboardWork(*controller);
+    EXPECT_GT(whileOpening, 10);
+    loop().fire(1.0);
+    EXPECT_GT(dashboardWork(*controller), whileOpening);
+
+    popover().performClose();
+    const int before = dashboardWork(*controller);
+    platform.table.calls.clear();
+    for (int tick = 0; tick < 5; ++tick) {
+        platform.host.advance(30, 70);
+        loop().fire(1.0);
+    }
+    EXPECT_EQ(controller->history.samples.size(), 7U);
+    EXPECT_EQ(dashboardWork(*controller), before);
+    EXPECT_TRUE(worker().jobs.empty());
+    EXPECT_TRUE(platform.table.calls.empty());
+    EXPECT_EQ(loop().timers.size(), 1U) << "that of the refreshes";
+}
+
 TEST_F(AppDelegateTest, UpdatesTheDashboardWhileThePopoverIsShown) {
     launch({"--show-dashboard"});
     platform.host.advance(30, 70);

@@ -78,8 +78,8 @@ class Desktop:
     def _start_display(self, undo):
         ready, report = os.pipe()
         with os.fdopen(ready) as answer:
-            self._spawn("Xvfb", "-displayfd", str(report), "-screen", "0", self._size,
-                        "-nolisten", "tcp", pass_fds=(report,))
+            self.server = self._spawn("Xvfb", "-displayfd", str(report), "-screen", "0",
+                                      self._size, "-nolisten", "tcp", pass_fds=(report,))
             os.close(report)
             number = answer.readline().strip()
         if not number:
@@ -100,11 +100,16 @@ class Desktop:
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self.bus_address
 
     def _start_window_manager(self):
-        self.start("openbox", "--sm-disable")
         # A window that opens while the window manager starts may be overlooked for good.
-        wait_until(lambda: subprocess.run(["xdotool", "get_num_desktops"], env=self.environment,
-                                          capture_output=True, timeout=20).returncode == 0,
-                   20, "the window manager")
+        self._manager = self.start("openbox", "--sm-disable")
+        wait_until(self._window_manager_runs, 20, "the window manager")
+
+    def _window_manager_runs(self):
+        if self._manager.poll() is not None:
+            # Now and then a server that has told its number turns its first client away.
+            self._manager = self.start("openbox", "--sm-disable")
+        return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment,
+                              capture_output=True, timeout=20).returncode == 0
 
     def start(self, *command, environment=None):
         """Starts a program on this desktop; what it prints goes to a log of its name."""
@@ -133,6 +138,16 @@ class Desktop:
     def picture(self, box=None):
         """The screen, or the part (left, top, right, bottom) of it."""
         return ImageGrab.grab(bbox=box, xdisplay=self.display).convert("RGB")
+
+    def settled_picture(self, box=None):
+        """The same, once nothing has changed on it for half a second."""
+        picture = None
+        for _ in range(20):
+            before, picture = picture, self.picture(box)
+            if picture == before:
+                break
+            time.sleep(0.5)
+        return picture
 
     def _keep_evidence(self):
         shutil.rmtree(self._evidence, ignore_errors=True)

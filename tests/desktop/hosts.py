@@ -40,7 +40,7 @@ XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 </channel>
 """
 
-# Edge of the screen: (corner at which the panel begins, whether it is vertical), as the panel counts.
+# Edge of the screen: (the corner at which the panel begins, 1 for a vertical panel).
 XFCE_EDGES = {"top": (6, 0), "bottom": (8, 0), "left": (6, 1), "right": (2, 1)}
 
 LXQT_PANEL = """panels=panel1
@@ -72,8 +72,8 @@ panel_background_id = 1
 
 
 def xfce(desktop, edge="top", centred=False, x=0):
-    """The panel of Xfce along a whole edge of the monitor that shows the column `x`, with nothing but
-    its tray, at the end or the centre."""
+    """The panel of Xfce along a whole edge of the monitor that shows the column `x`, with nothing
+    but its tray, at the end or the centre."""
     folder = desktop.config / "xfce4/xfconf/xfce-perchannel-xml"
     if not folder.exists():
         folder.mkdir(parents=True)

@@ -34,8 +34,12 @@ public:
     Color color = Color::labelColor;
     TextAlignment alignment = TextAlignment::natural;
     LineBreakMode lineBreakMode = LineBreakMode::clipping;
+    int textsSet = 0;
 
-    void setStringValue(const std::string& newText) override { text = newText; }
+    void setStringValue(const std::string& newText) override {
+        text = newText;
+        ++textsSet;
+    }
     [[nodiscard]] std::string stringValue() const override { return text; }
     void setFont(const Font& newFont) override { font = newFont; }
     void setTextColor(Color newColor) override { color = newColor; }

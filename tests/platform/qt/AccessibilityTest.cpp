@@ -23,6 +23,14 @@ TEST(Accessibility, ReadsALabelAsItsText) {
     EXPECT_EQ(read(*label).text(QAccessible::Name), "Fish & Chips <b>");
 }
 
+TEST(Accessibility, ReadsAToolTipAsItsCharacters) {
+    const auto label = testApplication().widgets().makeLabel("two\nlines");
+    label->setToolTip("<img src='/x'>\n · PID 1");
+    EXPECT_EQ(read(*label).text(QAccessible::Name), "two lines");
+    EXPECT_EQ(read(*label).text(QAccessible::Description),
+              QStringLiteral("<img src='/x'>  \u00B7 PID 1"));
+}
+
 TEST(Accessibility, ReadsAButtonByItsTitleAndPressesIt) {
     const auto button = testApplication().widgets().makeButton("Q&A");
     int pressed = 0;
@@ -56,6 +64,18 @@ TEST(Accessibility, ReadsACanvasByNameAndValue) {
     EXPECT_EQ(graph.text(QAccessible::Name), "Usage history");
     EXPECT_EQ(graph.text(QAccessible::Value), "CPU 42%");
     EXPECT_EQ(graph.text(QAccessible::Description), "CPU 42%");
+}
+
+TEST(Accessibility, ReadsWindowsAsWindows) {
+    const auto window = testApplication().windows().makeWindow("Dashboard", {100, 100});
+    const auto content = testApplication().widgets().makeView({0, 0, 100, 100});
+    window->setContentView(*content);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(qtView(*content).widget().window())->role(),
+              QAccessible::Window);
+    const auto popover = testApplication().windows().makePopover();
+    popover->setContentView(*content);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(qtView(*content).widget().window())->role(),
+              QAccessible::Dialog);
 }
 
 TEST(Accessibility, ReadsASeparatorAsOne) {

@@ -10,7 +10,8 @@ namespace zephrine {
 
 QString fromUTF8(std::string_view text);
 
-/// `text` on one line: every control character and line or paragraph separator is a space.
+/// `text` on one line, in the order in which it is written: every control character and line or
+/// paragraph separator is a space, and what would turn the order of others around shows as U+FFFD.
 QString singleLine(QString text);
 
 /// The title of a control, in which Qt would take a single ampersand for a keyboard mnemonic.

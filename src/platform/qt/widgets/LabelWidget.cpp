@@ -10,7 +10,6 @@
 
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Fonts.h"
-#include "platform/qt/drawing/PlainText.h"
 
 namespace zephrine {
 
@@ -60,7 +59,7 @@ void LabelWidget::setLineBreakMode(LineBreakMode mode) {
 }
 
 void LabelWidget::paintEvent(QPaintEvent* /*event*/) {
-    QString line = singleLine(text());
+    QString line = text();
     QFont drawn = font();
     if (mode_ == LineBreakMode::truncatingTail) {
         line = QFontMetricsF(drawn).elidedText(line, Qt::ElideRight, width());

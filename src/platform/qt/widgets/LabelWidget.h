@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The Qt widget of a label: a QLabel, so that it is announced as text, which paints itself.
+// The Qt widget of a label: a QLabel, so that it is announced as text, which paints itself. Its
+// text is a single line.
 #pragma once
 
 #include <QLabel>

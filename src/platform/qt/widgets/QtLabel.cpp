@@ -15,7 +15,7 @@ QtLabel::QtLabel(const SystemAppearance& appearance)
 
 void QtLabel::setStringValue(const std::string& text) {
     if (std::exchange(text_, text) != text) {
-        label_.setText(fromUTF8(text));
+        label_.setText(singleLine(fromUTF8(text)));
     }
 }
 

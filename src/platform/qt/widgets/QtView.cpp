@@ -77,7 +77,13 @@ void QtView::setAccessibilityValue(const std::string& value) {
 }
 
 void QtView::setToolTip(const std::string& text) {
-    widget_->setToolTip(shownLiterally(fromUTF8(text)));
+    const QString line = singleLine(fromUTF8(text));
+    const QString shown = shownLiterally(line);
+    if (shown != widget_->toolTip()) {
+        widget_->setToolTip(shown);
+        // Without a description the tool tip would be read out, markup and all.
+        widget_->setAccessibleDescription(line);
+    }
 }
 
 QtView& qtView(View& view) {

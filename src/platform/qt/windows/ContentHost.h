@@ -2,6 +2,7 @@
 // The place in a window where a content view stands. The view stays its owner's.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 #include "platform/Widgets.h"
@@ -17,9 +18,13 @@ public:
 
     /// Takes `view` in, out of wherever it stood before; what stood here leaves.
     void setContent(View& view);
+    /// Returns `view` to the host that this one has taken it from last.
+    void giveBack(View& view);
 
 private:
     void empty();
+
+    QPointer<ContentHost> lender_;
 };
 
 }  // namespace zephrine

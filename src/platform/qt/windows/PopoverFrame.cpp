@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Palette.h"
 #include "platform/qt/windows/X11Windows.h"
@@ -50,6 +51,7 @@ PopoverFrame::PopoverFrame(const SystemAppearance& appearance, Handlers handlers
       handlers_(std::move(handlers)),
       content_(this) {
     setWindowTitle(QStringLiteral("Zephrine"));
+    setAccessibleRole(*this, QAccessible::Dialog);
     fade_.setDuration(fadeTime);
     fade_.setStartValue(0.0);
     fade_.setEndValue(1.0);
@@ -108,10 +110,16 @@ void PopoverFrame::holdMouse() {
     }
 }
 
+void PopoverFrame::dismiss() {
+    hiding_ = true;  // hiding takes the activation away: nobody has turned to another window
+    hide();
+    hiding_ = false;
+}
+
 void PopoverFrame::hideByItself() {
-    if (isVisible()) {
+    if (isVisible() && !hiding_) {
         handlers_.closedByItself();
-        hide();
+        dismiss();
     }
 }
 
@@ -128,7 +136,7 @@ bool PopoverFrame::event(QEvent* event) {
 
 void PopoverFrame::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        hide();
+        dismiss();
     } else {
         QWidget::keyPressEvent(event);
     }
@@ -142,7 +150,7 @@ void PopoverFrame::mousePressEvent(QMouseEvent* event) {
 
 void PopoverFrame::closeEvent(QCloseEvent* event) {
     event->ignore();
-    hide();
+    dismiss();
 }
 
 void PopoverFrame::hideEvent(QHideEvent* event) {

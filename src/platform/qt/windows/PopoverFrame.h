@@ -29,6 +29,8 @@ public:
     /// Shows the panel with its upper left corner at `corner`, above other windows.
     void open(QPoint corner);
     void moveTo(QPoint corner);
+    /// Hides it because that was asked for.
+    void dismiss();
     /// Makes sure that a press anywhere else is noticed. Another program may hold the mouse at
     /// the moment: call it again now and then.
     void holdMouse();
@@ -53,6 +55,7 @@ private:
     QVariantAnimation fade_;
     QSize contentSize_;
     bool composited_ = false;
+    bool hiding_ = false;
 };
 
 }  // namespace zephrine

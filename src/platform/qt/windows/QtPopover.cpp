@@ -19,6 +19,11 @@ QtPopover::QtPopover(const SystemAppearance& appearance, RunLoop& runLoop, Click
       frame_(appearance, {.closed = [this] { closed(); },
                           .closedByItself = [this] { clickGuard_.noteAutomaticHide(); }}) {}
 
+void QtPopover::setContentView(View& view) {
+    content_ = &view;
+    frame_.content().setContent(view);
+}
+
 void QtPopover::setContentSize(Size size) {
     frame_.setContentSize(
         {static_cast<int>(std::lround(size.width)), static_cast<int>(std::lround(size.height))});
@@ -34,6 +39,9 @@ void QtPopover::showRelativeTo(StatusItemButton& button) {
     }
     const auto* anchor = dynamic_cast<const ItemAnchor*>(&button);
     const std::optional<QRect> item = anchor != nullptr ? anchor->anchorRect() : std::nullopt;
+    if (content_ != nullptr) {
+        frame_.content().setContent(*content_);
+    }
     frame_.open(cornerBeside(item));
     if (anchor != nullptr) {
         following_ = QObject::connect(anchor, &ItemAnchor::anchorChanged, &frame_, [this, anchor] {
@@ -55,6 +63,9 @@ QPoint QtPopover::cornerBeside(const std::optional<QRect>& item) const {
 void QtPopover::closed() {
     QObject::disconnect(following_);
     watch_.reset();
+    if (content_ != nullptr) {
+        frame_.content().giveBack(*content_);
+    }
     if (didClose_) {
         const auto handler = didClose_;
         handler();

@@ -18,12 +18,12 @@ public:
     /// All three outlive the popover.
     QtPopover(const SystemAppearance& appearance, RunLoop& runLoop, ClickGuard& clickGuard);
 
-    void setContentView(View& view) override { frame_.content().setContent(view); }
+    void setContentView(View& view) override;
     void setContentSize(Size size) override;
     void setDidCloseHandler(std::function<void()> handler) override;
     [[nodiscard]] bool isShown() const override { return frame_.isVisible(); }
     void showRelativeTo(StatusItemButton& button) override;
-    void performClose() override { frame_.hide(); }
+    void performClose() override { frame_.dismiss(); }
 
 private:
     [[nodiscard]] QPoint cornerBeside(const std::optional<QRect>& item) const;
@@ -31,6 +31,7 @@ private:
 
     RunLoop& runLoop_;
     ClickGuard& clickGuard_;
+    View* content_ = nullptr;
     std::function<void()> didClose_;
     std::unique_ptr<Timer> watch_;
     PopoverFrame frame_;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/Accessibility.h"
 #include "platform/qt/drawing/PlainText.h"
 #include "platform/qt/windows/WorkArea.h"
 #include "platform/qt/windows/X11Windows.h"
@@ -26,6 +27,7 @@ QtWindow::QtWindow(const std::string& title, Size contentSize)
     const QSize size(static_cast<int>(std::lround(contentSize.width)),
                      static_cast<int>(std::lround(contentSize.height)));
     surface_->setWindowTitle(fromUTF8(title));
+    setAccessibleRole(*surface_, QAccessible::Window);
     surface_->setFixedSize(size);
     content_.resize(size);
 }

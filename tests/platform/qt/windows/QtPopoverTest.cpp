@@ -135,6 +135,15 @@ TEST_F(QtPopoverTest, SwallowsTheClickOfAPressOutsideAndNoOther) {
     EXPECT_TRUE(guard.swallowsClick());
 }
 
+TEST_F(QtPopoverTest, ANewClickOpensItAtOnceAfterItWasClosedOnRequest) {
+    popover.showRelativeTo(button);
+    QApplication::setActiveWindow(&window());  // so that hiding takes the activation away
+    ASSERT_TRUE(window().isActiveWindow());
+    popover.performClose();
+    EXPECT_FALSE(guard.swallowsClick());
+    EXPECT_EQ(closed, 1);
+}
+
 TEST_F(QtPopoverTest, HoldsTheMouseOnlyWhileItIsShown) {
     EXPECT_TRUE(loop.timers.empty());
     popover.showRelativeTo(button);
@@ -143,6 +152,19 @@ TEST_F(QtPopoverTest, HoldsTheMouseOnlyWhileItIsShown) {
     loop.fire(1);
     popover.performClose();
     EXPECT_TRUE(loop.timers.empty());
+}
+
+TEST_F(QtPopoverTest, BorrowsItsContentFromAWindowWhileItIsShown) {
+    QtWindow inspection("Dashboard", {360, 500});
+    inspection.setContentView(content);
+    inspection.makeKeyAndOrderFront();
+    QWidget* const other = &window();
+    popover.showRelativeTo(button);
+    EXPECT_NE(&window(), other);
+    EXPECT_TRUE(content.widget().isVisible());
+    popover.performClose();
+    EXPECT_EQ(&window(), other);
+    EXPECT_TRUE(content.widget().isVisible());
 }
 
 TEST_F(QtPopoverTest, GivesItsContentToAWindowAndTakesItBack) {
