@@ -51,7 +51,11 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
 }
 
 std::optional<Appearance> QtStatusItemButton::effectiveAppearance() const {
-    told_ = panelAppearance_.current().value_or(services_.systemAppearance.current());
+    auto surface = panelAppearance_.current();
+    if (!surface) {
+        surface = tray_.surface();  // some trays stand in panels that cannot be found
+    }
+    told_ = surface.value_or(services_.systemAppearance.current());
     return told_;
 }
 

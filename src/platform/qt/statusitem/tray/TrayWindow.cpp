@@ -9,8 +9,10 @@
 #include <cstring>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/qt/drawing/RenderImage.h"
+#include "platform/qt/statusitem/PanelPixels.h"
 #include "platform/qt/statusitem/X11.h"
 #include "platform/qt/statusitem/tray/TrayLayout.h"
 
@@ -190,6 +192,16 @@ QImage TrayWindow::picture() const {
     whole.fill(Qt::transparent);
     QPainter(&whole).drawImage(layout.corner, part);
     return whole;
+}
+
+std::optional<Appearance> TrayWindow::surface() const {
+    std::vector<std::uint32_t> pixels;
+    for (int y = 0; y < background_.height(); ++y) {
+        for (int x = 0; x < background_.width(); ++x) {
+            pixels.push_back(background_.pixel(x, y));
+        }
+    }
+    return appearanceOfPixels(pixels);
 }
 
 const QImage& TrayWindow::background() {
