@@ -34,6 +34,17 @@ panel_packages=(
     dex desktop-file-utils python3-dbusmock
 )
 
+# Prints what the panels of these hosts need besides, for those that ./test leaves out.
+heavy_panel_packages() {
+    local host
+    for host in "$@"; do
+        case $host in
+            gnome) echo gnome-shell gnome-shell-extension-appindicator ;;
+            i3bar) echo i3-wm ;;
+        esac
+    done
+}
+
 # Checking the macOS back end against declarations: tests/macos/check.
 # shellcheck disable=SC2034
 macos_packages=(

@@ -17,10 +17,12 @@
 namespace zephrine {
 
 /// The picture of the item. `wide` is the picture itself. Some panels force every item into a
-/// square: `square` renders the same figures for a square of `side` points.
+/// square: `square` renders the same figures for a square of `side` points. Others set text beside
+/// a small picture: `text` is what the picture says, on two lines.
 struct StatusItemImage {
     Image wide;
-    std::function<Image(double side)> square;
+    std::function<Image(double side)> square = {};
+    std::string text = {};
 };
 
 /// The part of the item that is seen and clicked.

@@ -15,6 +15,14 @@ constexpr const char* widthSample = "RAM  24.0G";
 
 }  // namespace
 
+std::string firstLine(const StatusContent& content) {
+    return "CPU " + content.cpuText;
+}
+
+std::string secondLine(const StatusContent& content) {
+    return "RAM " + content.ramText;
+}
+
 Image statusImage(const StatusContent& content, const TextMeasure& measure) {
     const Font font{FontFamily::monospaced, content.fontSize, FontWeight::medium};
     const double textWidth = measure.sizeOfText(widthSample, font).width;
@@ -22,8 +30,8 @@ Image statusImage(const StatusContent& content, const TextMeasure& measure) {
 
     return {.size = {width, imageHeight}, .drawingHandler = [content, font, width](auto& context) {
                 const Color text = content.isDark ? Color::white : Color::black;
-                context.drawText("CPU " + content.cpuText, {1, 12}, font, text);
-                context.drawText("RAM " + content.ramText, {1, 0}, font, text);
+                context.drawText(firstLine(content), {1, 12}, font, text);
+                context.drawText(secondLine(content), {1, 0}, font, text);
                 context.setFill(content.dot);
                 context.fillOval({width - 6, 4, 4, 4});
                 return true;

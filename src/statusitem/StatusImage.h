@@ -22,6 +22,10 @@ struct StatusContent {
     bool isDark = false;
 };
 
+/// The two lines of the picture.
+std::string firstLine(const StatusContent& content);
+std::string secondLine(const StatusContent& content);
+
 /// The wide picture, 24 points high. Its width follows from the font size alone, so that the item
 /// does not jitter as the figures change.
 Image statusImage(const StatusContent& content, const TextMeasure& measure);

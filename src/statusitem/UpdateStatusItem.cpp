@@ -46,9 +46,10 @@ void AppDelegate::updateStatusItem() {
     const TextMeasure& measure = application_.textMeasure();
     Image wide = statusImage(content, measure);
     statusItem->setLength(wide.size.width + itemPadding);
-    button->setImage({.wide = std::move(wide), .square = [content, &measure](double side) {
-                          return squareImage(content, side, measure);
-                      }});
+    button->setImage(
+        {.wide = std::move(wide),
+         .square = [content, &measure](double side) { return squareImage(content, side, measure); },
+         .text = firstLine(content) + "\n" + secondLine(content)});
 }
 
 }  // namespace zephrine

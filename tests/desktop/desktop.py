@@ -34,11 +34,13 @@ def wait_until(condition, timeout, what):
 
 class Desktop:
     """Use as `with Desktop() as desktop:`. With `evidence`, a folder, the logs and a picture of the
-    screen are kept there when the block ends with an exception."""
+    screen are kept there when the block ends with an exception. Some panels bring a window manager
+    of their own; for the others it is Openbox."""
 
-    def __init__(self, width=1000, height=760, evidence=None):
+    def __init__(self, width=1000, height=760, evidence=None, window_manager=True):
         self._size = f"{width}x{height}x24"
         self._evidence = evidence
+        self._has_window_manager = window_manager
         self._exit = contextlib.ExitStack()
         self._started = []
 
@@ -50,7 +52,8 @@ class Desktop:
             undo.callback(self._end_all)
             self._start_display(undo)
             self._start_bus(undo)
-            self._start_window_manager()
+            if self._has_window_manager:
+                self._start_window_manager()
             self._exit = undo.pop_all()
         return self
 

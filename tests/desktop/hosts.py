@@ -1,11 +1,9 @@
 # SPDX-License-Identifier: MIT
 """Panels that show status items, one function each: it starts the panel on a desktop, waits until
 the panel accepts items, and returns the panel's process."""
-import dataclasses
-import typing
-
 from bus import Bus
 from desktop import wait_until
+from host import Host
 
 XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
@@ -132,12 +130,6 @@ def tint2(desktop):
 
 def none(_):
     """A bare window manager: there, the item has a strip of its own."""
-
-
-@dataclasses.dataclass(frozen=True)
-class Host:
-    start: typing.Callable  # of the desktop; returns the panel's process, or None
-    area: tuple  # left, top, right, bottom of where the item may be, and nothing else that moves
 
 
 TOP = (0, 0, 1000, 32)

@@ -23,6 +23,7 @@ def figures(picture):
         large.save(file.name)
         text = subprocess.run(["tesseract", file.name, "-", "--psm", "6"], check=True, timeout=60,
                               capture_output=True, text=True).stdout
+    named = re.findall(r"(?:CPU|RAM)\D*(\d+(?:\.\d)?)", text)
     # The dot of the memory pressure is taken for all sorts of characters, at the end of a line.
-    return [number for line in text.splitlines()
+    return named or [number for line in text.splitlines()
             if (number := next(iter(re.findall(r"\d+(?:\.\d)?", line)), None))]

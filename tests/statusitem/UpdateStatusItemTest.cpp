@@ -30,6 +30,11 @@ TEST_F(UpdateStatusItemTest, ShowsTheReadingsInPictureToolTipAndAccessibilityLab
     EXPECT_EQ(controller->lastImageKey, " 30%- 25%-9.0-1-false");
 }
 
+TEST_F(UpdateStatusItemTest, GivesTheLinesOfThePictureAsTextToo) {
+    launch();
+    EXPECT_EQ(button().image.text, firstLine() + "\n" + secondLine());
+}
+
 TEST_F(UpdateStatusItemTest, DrawsOnceForUnchangedReadingsButDescribesEachTime) {
     launch();
     const auto measurements = application().measure.measurements;

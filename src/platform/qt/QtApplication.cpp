@@ -89,7 +89,11 @@ QtApplication::QtApplication(Start start, PreferenceStore& preferences)
       runLoop_([this] { sleepWatcher_.check(); }),
       widgets_(appearance_),
       windows_(appearance_, runLoop_, clickGuard_),
-      statusBar_({clickGuard_, appearance_, preferences}),
+      statusBar_({.clickGuard = clickGuard_,
+                  .systemAppearance = appearance_,
+                  .preferences = preferences,
+                  .openSettings = [this] { openedAgain("--show-settings"); },
+                  .quit = [this] { terminate(); }}),
       instance_(QDBusConnection::sessionBus(), start_.place,
                 [this](std::string_view option) { openedAgain(option); }) {
     // Qt has taken the user's locale over for the whole process; numbers in texts that the program

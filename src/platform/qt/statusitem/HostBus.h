@@ -17,6 +17,8 @@ struct HostProcess {
     std::optional<pid_t> pid;
     /// As the kernel keeps it, cut off after 15 bytes; empty when not known.
     std::string command;
+    /// The major version, where forms depend on it: GNOME's.
+    std::optional<int> version = std::nullopt;
 };
 
 class HostBus {

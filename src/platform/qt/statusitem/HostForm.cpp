@@ -26,15 +26,19 @@ constexpr std::array kKnownHosts{
     KnownHost{"plasmashell", HostForm::squares},
     KnownHost{"swaybar", HostForm::squares},
     KnownHost{"budgie", HostForm::squares},
-    KnownHost{"gnome-shell", HostForm::squares},
+    KnownHost{"gnome-shell", HostForm::labelled},
 };
 
 }  // namespace
 
-HostForm formOfHost(std::string_view command) {
-    const auto* const known =
-        std::find_if(kKnownHosts.begin(), kKnownHosts.end(),
-                     [&](const KnownHost& host) { return command.starts_with(host.prefix); });
+HostForm formOfHost(const HostProcess& host) {
+    constexpr int firstWithWideFiles = 45;
+    if (host.command == "gnome-shell" && host.version >= firstWithWideFiles) {
+        return HostForm::wideFile;
+    }
+    const auto* const known = std::find_if(
+        kKnownHosts.begin(), kKnownHosts.end(),
+        [&](const KnownHost& candidate) { return host.command.starts_with(candidate.prefix); });
     return known == kKnownHosts.end() ? HostForm::mixed : known->form;
 }
 

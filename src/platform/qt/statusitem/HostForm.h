@@ -3,18 +3,19 @@
 // that it shows best. A panel is told by the command name of the process that owns the watcher.
 #pragma once
 
-#include <string_view>
+#include "platform/qt/statusitem/HostBus.h"
 
 namespace zephrine {
 
 enum class HostForm {
     wideDoubled,  ///< keeps wide pictures wide and scales them to its height
     wideExact,    ///< keeps wide pictures wide and as large as they are
+    wideFile,     ///< squeezes pixels that it is sent, but not a picture that it reads from a file
+    labelled,     ///< squeezes pictures, but sets text beside them
     squares,      ///< squeezes whatever is not square
     mixed,        ///< not known: squares, ascending, then a wide picture for those that take it
 };
 
-/// `command` is the process's name as the kernel keeps it, cut off after 15 bytes.
-[[nodiscard]] HostForm formOfHost(std::string_view command);
+[[nodiscard]] HostForm formOfHost(const HostProcess& host);
 
 }  // namespace zephrine

@@ -21,6 +21,20 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, MenuItemPropertie
     return argument;
 }
 
+QDBusArgument& operator<<(QDBusArgument& argument, const MenuItemNames& item) {
+    argument.beginStructure();
+    argument << item.id << item.names;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, MenuItemNames& item) {
+    argument.beginStructure();
+    argument >> item.id >> item.names;
+    argument.endStructure();
+    return argument;
+}
+
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuLayout& layout) {
     argument.beginStructure();
     argument << layout.id << layout.properties;
@@ -66,6 +80,8 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, MenuEvent& event)
 void registerMenuTypes() {
     qDBusRegisterMetaType<MenuItemProperties>();
     qDBusRegisterMetaType<QList<MenuItemProperties>>();
+    qDBusRegisterMetaType<MenuItemNames>();
+    qDBusRegisterMetaType<QList<MenuItemNames>>();
     qDBusRegisterMetaType<MenuLayout>();
     qDBusRegisterMetaType<MenuEvent>();
     qDBusRegisterMetaType<QList<MenuEvent>>();

@@ -5,6 +5,7 @@
 #include <QDBusArgument>
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QVariantMap>
 
 namespace zephrine {
@@ -13,6 +14,12 @@ namespace zephrine {
 struct MenuItemProperties {
     int id = 0;
     QVariantMap properties;
+};
+
+/// (ias): an entry and names of its properties.
+struct MenuItemNames {
+    int id = 0;
+    QStringList names;
 };
 
 /// (ia{sv}av): an entry, its properties, and the entries below it.
@@ -30,6 +37,8 @@ struct MenuEvent {
 
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuItemProperties& item);
 const QDBusArgument& operator>>(const QDBusArgument& argument, MenuItemProperties& item);
+QDBusArgument& operator<<(QDBusArgument& argument, const MenuItemNames& item);
+const QDBusArgument& operator>>(const QDBusArgument& argument, MenuItemNames& item);
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuLayout& layout);
 const QDBusArgument& operator>>(const QDBusArgument& argument, MenuLayout& layout);
 QDBusArgument& operator<<(QDBusArgument& argument, const MenuEvent& event);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The interface org.kde.StatusNotifierItem. Every property of it is always there: a panel that
-// misses one guesses (without ItemIsMenu some never send a click) or fills its log.
+// The interface org.kde.StatusNotifierItem. Its properties are always there: a panel that misses
+// one guesses (without ItemIsMenu some never send a click) or fills its log.
 #include "platform/qt/statusitem/NotifierItem.h"
 
 #include <QDBusMessage>
@@ -60,12 +60,15 @@ constexpr const char* kIntrospection = R"xml(
     <property name="AttentionMovieName" type="s" access="read"/>
     <property name="AttentionAccessibleDesc" type="s" access="read"/>
     <property name="ToolTip" type="(sa(iiay)ss)" access="read"/>
+    <property name="XAyatanaLabel" type="s" access="read"/>
+    <property name="XAyatanaLabelGuide" type="s" access="read"/>
     <method name="Activate"><arg type="i"/><arg type="i"/></method>
     <method name="SecondaryActivate"><arg type="i"/><arg type="i"/></method>
     <method name="ContextMenu"><arg type="i"/><arg type="i"/></method>
     <method name="Scroll"><arg type="i"/><arg type="s"/></method>
     <signal name="NewIcon"/>
     <signal name="NewToolTip"/>
+    <signal name="XAyatanaNewLabel"><arg type="s"/><arg type="s"/></signal>
   </interface>
 )xml";
 
@@ -92,12 +95,14 @@ NotifierItem::~NotifierItem() {
     bus_.unregisterObject(kPath);
 }
 
-void NotifierItem::setPixmaps(NotifierPixmaps pixmaps) {
-    if (pixmaps == pixmaps_) {
-        return;
+void NotifierItem::setFace(NotifierFace face) {
+    const NotifierFace before = std::exchange(face_, std::move(face));
+    if (before.iconName != face_.iconName || before.pixmaps != face_.pixmaps) {
+        announce("NewIcon");
     }
-    pixmaps_ = std::move(pixmaps);
-    announce("NewIcon");
+    if (before.label != face_.label) {
+        announce("XAyatanaNewLabel", {face_.label, face_.label});
+    }
 }
 
 void NotifierItem::setToolTip(const QString& text) {
@@ -132,7 +137,7 @@ bool NotifierItem::handleMessage(const QDBusMessage& message, const QDBusConnect
 
 QVariantMap NotifierItem::properties() const {
     const QVariant noPixmaps = QVariant::fromValue(NotifierPixmaps());
-    return {
+    QVariantMap all{
         {"Category", "SystemServices"},
         {"Id", "zephrine"},
         {"Title", "Zephrine"},
@@ -140,9 +145,9 @@ QVariantMap NotifierItem::properties() const {
         {"WindowId", 0},
         {"ItemIsMenu", false},
         {"Menu", QVariant::fromValue(QDBusObjectPath(NotifierMenu::kPath))},
-        {"IconName", ""},
+        {"IconName", face_.iconName},
         {"IconThemePath", ""},
-        {"IconPixmap", QVariant::fromValue(pixmaps_)},
+        {"IconPixmap", QVariant::fromValue(face_.pixmaps)},
         {"IconAccessibleDesc", accessibleText_},
         {"OverlayIconName", ""},
         {"OverlayIconPixmap", noPixmaps},
@@ -152,10 +157,17 @@ QVariantMap NotifierItem::properties() const {
         {"AttentionAccessibleDesc", ""},
         {"ToolTip", QVariant::fromValue(NotifierToolTip{toolTip_})},
     };
+    if (!face_.label.isEmpty()) {  // MATE shows the label in place of the picture, an empty one too
+        all.insert("XAyatanaLabel", face_.label);
+        all.insert("XAyatanaLabelGuide", face_.label);
+    }
+    return all;
 }
 
-void NotifierItem::announce(const QString& signal) const {
-    bus_.send(QDBusMessage::createSignal(kPath, kInterface, signal));
+void NotifierItem::announce(const QString& signal, const QVariantList& arguments) const {
+    QDBusMessage message = QDBusMessage::createSignal(kPath, kInterface, signal);
+    message.setArguments(arguments);
+    bus_.send(message);
 }
 
 }  // namespace zephrine

@@ -10,7 +10,7 @@
 #include <QVariantMap>
 #include <functional>
 
-#include "platform/qt/statusitem/NotifierPixmap.h"
+#include "platform/qt/statusitem/NotifierFace.h"
 
 namespace zephrine {
 
@@ -21,8 +21,8 @@ public:
     ~NotifierItem() override;
     Q_DISABLE_COPY_MOVE(NotifierItem)
 
-    /// Announces the pictures if any of their pixels is another than before.
-    void setPixmaps(NotifierPixmaps pixmaps);
+    /// Announces the picture, the label, or both, if they are others than before.
+    void setFace(NotifierFace face);
     /// The tool tip, without markup; announced if it is another than before.
     void setToolTip(const QString& text);
     /// What a screen reader says for the picture, without markup. Read along with the picture.
@@ -33,11 +33,11 @@ public:
 
 private:
     [[nodiscard]] QVariantMap properties() const;
-    void announce(const QString& signal) const;
+    void announce(const QString& signal, const QVariantList& arguments = {}) const;
 
     QDBusConnection bus_;
     std::function<void()> clicked_;
-    NotifierPixmaps pixmaps_;
+    NotifierFace face_;
     QString toolTip_;
     QString accessibleText_;
 };

@@ -18,6 +18,8 @@ constexpr const char* kInterface = "com.canonical.dbusmenu";
 constexpr int kRoot = 0;
 constexpr int kOpen = 1;
 constexpr int kFigures = 2;
+constexpr int kSettings = 3;
+constexpr int kQuit = 4;
 
 constexpr const char* kIntrospection = R"xml(
   <interface name="com.canonical.dbusmenu">
@@ -65,9 +67,12 @@ constinit const std::array<NotifierMenu::Method, 7> NotifierMenu::kMethods{{
     {"AboutToShowGroup", "ai", &NotifierMenu::aboutToShowGroup},
 }};
 
-NotifierMenu::NotifierMenu(QDBusConnection bus, std::function<void()> opened)
+NotifierMenu::NotifierMenu(QDBusConnection bus, Actions actions)
     : bus_(std::move(bus)),
-      entries_{{kOpen, "Open", true, std::move(opened)}, {kFigures, "", false, {}}} {
+      entries_{{kOpen, "Open", true, std::move(actions.open)},
+               {kFigures, "", false, {}},
+               {kSettings, "Settings…", true, std::move(actions.settings)},
+               {kQuit, "Quit", true, std::move(actions.quit)}} {
     registerMenuTypes();
     bus_.registerVirtualObject(kPath, this);
 }
@@ -198,9 +203,21 @@ QDBusMessage NotifierMenu::sendEventGroup(const QDBusMessage& call) {
     return call.createReply(QVariant::fromValue(unknown));
 }
 
+bool NotifierMenu::tellIfStale() {
+    if (!isStale()) {
+        return false;
+    }
+    // GNOME asks for the menu's layout once more, but not for what its entries say.
+    QDBusMessage signal = QDBusMessage::createSignal(kPath, kInterface, "ItemsPropertiesUpdated");
+    const QList<MenuItemProperties> changed{{kFigures, properties(kFigures, {})}};
+    signal << QVariant::fromValue(changed) << QVariant::fromValue(QList<MenuItemNames>());
+    bus_.send(signal);
+    return true;
+}
+
 QDBusMessage NotifierMenu::aboutToShow(const QDBusMessage& call) {
     const int id = call.arguments().at(0).toInt();
-    return knows(id) ? call.createReply(id == kRoot && isStale()) : noSuchEntry(call);
+    return knows(id) ? call.createReply(id == kRoot && tellIfStale()) : noSuchEntry(call);
 }
 
 QDBusMessage NotifierMenu::aboutToShowGroup(const QDBusMessage& call) {
@@ -210,7 +227,7 @@ QDBusMessage NotifierMenu::aboutToShowGroup(const QDBusMessage& call) {
     for (const int id : ids) {
         if (!knows(id)) {
             unknown.append(id);
-        } else if (id == kRoot && isStale()) {
+        } else if (id == kRoot && tellIfStale()) {
             stale.append(id);
         }
     }

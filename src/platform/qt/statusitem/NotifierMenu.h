@@ -19,12 +19,19 @@ class NotifierMenu final : public QDBusVirtualObject {
 public:
     static constexpr const char* kPath = "/MenuBar";
 
-    /// `opened` is called while the panel waits for its answer: it returns at once.
-    NotifierMenu(QDBusConnection bus, std::function<void()> opened);
+    /// What the entries do. They are called while the panel waits for its answer: they return at
+    /// once.
+    struct Actions {
+        std::function<void()> open;
+        std::function<void()> settings;
+        std::function<void()> quit;
+    };
+
+    NotifierMenu(QDBusConnection bus, Actions actions);
     ~NotifierMenu() override;
     Q_DISABLE_COPY_MOVE(NotifierMenu)
 
-    /// The line of figures. Nobody is told: a panel asks before it shows the menu.
+    /// The line of figures. Panels are told only when one is about to show the menu.
     void setFigures(const QString& text);
 
     [[nodiscard]] QString introspect(const QString& path) const override;
@@ -52,6 +59,8 @@ private:
     bool handleEvent(int id, const QString& event);
     /// Whether the menu is another than the one last handed out.
     [[nodiscard]] bool isStale() const { return revision_ != servedRevision_; }
+    /// The same, for a panel that is about to show it: tells what it says now.
+    bool tellIfStale();
 
     QDBusMessage getLayout(const QDBusMessage& call);
     QDBusMessage getGroupProperties(const QDBusMessage& call);

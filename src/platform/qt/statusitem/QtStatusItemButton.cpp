@@ -34,7 +34,10 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
                                        const StatusItemServices& services)
     : services_(services),
       item_(bus, [this] { panelClicked(); }),
-      menu_(bus, [this] { panelClicked(); }),
+      menu_(bus, {.open = [this] { panelClicked(); },
+                  .settings = [this] { performLater(services_.openSettings); },
+                  .quit = [this] { performLater(services_.quit); }}),
+      files_(pictureFolder()),
       strip_(services.preferences),
       probe_(x11Connection()),
       panelAppearance_(probe_, [] { return std::chrono::steady_clock::now(); }),
@@ -48,7 +51,11 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
 }
 
 std::optional<Appearance> QtStatusItemButton::effectiveAppearance() const {
-    told_ = panelAppearance_.current().value_or(services_.systemAppearance.current());
+    auto surface = panelAppearance_.current();
+    if (!surface) {
+        surface = tray_.surface();  // some trays stand in panels that cannot be found
+    }
+    told_ = surface.value_or(services_.systemAppearance.current());
     return told_;
 }
 
@@ -102,14 +109,15 @@ void QtStatusItemButton::panelClicked() {
     }
     clickIsQueued_ = true;
     lastClick_ = pointerRect();
-    // Later, because the bus connection's thread waits until the panel's call is through.
+    performLater([this] {
+        clickIsQueued_ = false;
+        clicked();
+    });
+}
+
+void QtStatusItemButton::performLater(std::function<void()> action) {
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            clickIsQueued_ = false;
-            clicked();
-        },
-        Qt::QueuedConnection);
+        this, [action = std::move(action)] { action(); }, Qt::QueuedConnection);
 }
 
 void QtStatusItemButton::clicked() {
@@ -129,7 +137,7 @@ void QtStatusItemButton::placeChanged() {
 
 void QtStatusItemButton::show() {
     if (host_) {
-        item_.setPixmaps(pixmapsForHost(formOfHost(host_->command), image_, drawnFor_));
+        item_.setFace(faceForHost(formOfHost(*host_), image_, drawnFor_, files_));
     }
     if (!isInPanel_) {
         tray_.setPicture(image_, drawnFor_);

@@ -19,6 +19,7 @@
 #include "platform/qt/statusitem/PanelAppearance.h"
 #include "platform/qt/statusitem/StatusStrip.h"
 #include "platform/qt/statusitem/X11PanelProbe.h"
+#include "platform/qt/statusitem/forms/FileForm.h"
 #include "platform/qt/statusitem/tray/TrayItem.h"
 
 namespace zephrine {
@@ -28,6 +29,9 @@ struct StatusItemServices {
     const ClickGuard& clickGuard;
     const SystemAppearance& systemAppearance;
     PreferenceStore& preferences;
+    /// What the item's menu offers besides a click.
+    std::function<void()> openSettings;
+    std::function<void()> quit;
 };
 
 class QtStatusItemButton final : public ItemAnchor, public StatusItemButton {
@@ -47,6 +51,8 @@ public:
 
 private:
     void panelClicked();
+    /// Does it once the panel has its answer: the bus connection's thread waits until then.
+    void performLater(std::function<void()> action);
     void clicked();
     void show();
     void placeChanged();
@@ -54,6 +60,7 @@ private:
     StatusItemServices services_;
     NotifierItem item_;
     NotifierMenu menu_;
+    PictureFiles files_;
     TrayItem tray_;
     StatusStrip strip_;
     X11PanelProbe probe_;

@@ -6,6 +6,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+#include <string_view>
 #include <utility>
 
 #include "platform/qt/statusitem/HostWatcher.h"
@@ -19,6 +20,7 @@ constexpr const char* kWatcherName = "org.kde.StatusNotifierWatcher";
 constexpr const char* kWatcherPath = "/StatusNotifierWatcher";
 constexpr const char* kBusName = "org.freedesktop.DBus";
 constexpr const char* kBusPath = "/org/freedesktop/DBus";
+constexpr std::string_view kGNOMEShell = "gnome-shell";
 
 /// The answer's one value; absent in an error and in an answer of another kind.
 template <typename Value>
@@ -69,11 +71,32 @@ void SessionHostBus::identify(const QString& owner, std::function<void(HostProce
     QDBusMessage question =
         QDBusMessage::createMethodCall(kBusName, kBusPath, kBusName, "GetConnectionUnixProcessID");
     question << owner;
-    call(question, [answer = std::move(answer)](const QDBusMessage& reply) {
+    call(question, [this, answer = std::move(answer)](const QDBusMessage& reply) {
         HostProcess process;
         if (const auto pid = valueOf<uint>(reply)) {
             process.pid = static_cast<pid_t>(*pid);
             process.command = commandOf(*process.pid);
+        }
+        if (process.command == kGNOMEShell) {
+            askForVersion(std::move(process), answer);
+        } else {
+            answer(std::move(process));
+        }
+    });
+}
+
+void SessionHostBus::askForVersion(HostProcess process, std::function<void(HostProcess)> answer) {
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        "org.gnome.Shell", "/org/gnome/Shell", "org.freedesktop.DBus.Properties", "Get");
+    question << "org.gnome.Shell"
+             << "ShellVersion";
+    call(question, [process = std::move(process),
+                    answer = std::move(answer)](const QDBusMessage& reply) mutable {
+        bool isNumber = false;
+        const int major =
+            valueOf<QString>(reply).value_or(QString()).section(u'.', 0, 0).toInt(&isNumber);
+        if (isNumber) {
+            process.version = major;
         }
         answer(std::move(process));
     });

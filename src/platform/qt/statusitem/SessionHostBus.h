@@ -31,6 +31,7 @@ private slots:
     void disconnected();
 
 private:
+    void askForVersion(HostProcess process, std::function<void(HostProcess)> answer);
     void call(const QDBusMessage& message, std::function<void(const QDBusMessage&)> answer);
 
     QDBusConnection bus_;

@@ -3,6 +3,8 @@
 
 #include <QDBusVariant>
 
+#include "platform/qt/statusitem/NotifierMenu.h"
+
 namespace zephrine {
 
 namespace {
@@ -11,11 +13,13 @@ constexpr const char* kName = "org.kde.StatusNotifierWatcher";
 constexpr const char* kPath = "/StatusNotifierWatcher";
 constexpr const char* kItemPath = "/StatusNotifierItem";
 constexpr const char* kItem = "org.kde.StatusNotifierItem";
+constexpr const char* kMenu = "com.canonical.dbusmenu";
 
 }  // namespace
 
 FakePanel::FakePanel(const PrivateBus& bus, Manner manner) : peer_(bus), manner_(manner) {
     peer_.bus().connect({}, kItemPath, kItem, {}, this, SLOT(countSignal(QDBusMessage)));
+    peer_.bus().connect({}, NotifierMenu::kPath, kMenu, {}, this, SLOT(countSignal(QDBusMessage)));
     peer_.bus().registerVirtualObject(kPath, this);
     peer_.bus().registerService(kName);
 }

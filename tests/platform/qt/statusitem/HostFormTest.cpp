@@ -6,22 +6,37 @@
 namespace zephrine {
 namespace {
 
+HostForm formOf(const char* command) {
+    return formOfHost({.pid = 42, .command = command});
+}
+
 TEST(HostForm, GivesWidePicturesToPanelsThatKeepThemWide) {
-    EXPECT_EQ(formOfHost("waybar"), HostForm::wideDoubled);
-    EXPECT_EQ(formOfHost("xapp-sn-watcher"), HostForm::wideDoubled);
-    EXPECT_EQ(formOfHost("notification-ar"), HostForm::wideExact);
+    EXPECT_EQ(formOf("waybar"), HostForm::wideDoubled);
+    EXPECT_EQ(formOf("xapp-sn-watcher"), HostForm::wideDoubled);
+    EXPECT_EQ(formOf("notification-ar"), HostForm::wideExact);
 }
 
 TEST(HostForm, GivesSquaresToPanelsThatSqueeze) {
     for (const char* command : {"panel-3-systray", "panel-12-systra", "xfce4-panel", "lxqt-panel",
-                                "kded5", "kded6", "plasmashell", "swaybar", "gnome-shell"}) {
-        EXPECT_EQ(formOfHost(command), HostForm::squares) << command;
+                                "kded5", "kded6", "plasmashell", "swaybar"}) {
+        EXPECT_EQ(formOf(command), HostForm::squares) << command;
     }
+}
+
+TEST(HostForm, GivesGNOMEAFileSinceItsVersion45AndALabelBefore) {
+    const auto formOfGNOME = [](std::optional<int> version) {
+        return formOfHost({.pid = 42, .command = "gnome-shell", .version = version});
+    };
+    EXPECT_EQ(formOfGNOME(43), HostForm::labelled);
+    EXPECT_EQ(formOfGNOME(44), HostForm::labelled);
+    EXPECT_EQ(formOfGNOME(45), HostForm::wideFile);
+    EXPECT_EQ(formOfGNOME(49), HostForm::wideFile);
+    EXPECT_EQ(formOfGNOME(std::nullopt), HostForm::labelled) << "it did not tell";
 }
 
 TEST(HostForm, GivesBothToAPanelThatItDoesNotKnow) {
     for (const char* command : {"", "w", "my-panel", "Waybar"}) {
-        EXPECT_EQ(formOfHost(command), HostForm::mixed) << command;
+        EXPECT_EQ(formOf(command), HostForm::mixed) << command;
     }
 }
 

@@ -26,8 +26,13 @@ protected:
     PrivateBus bus;
     BusPeer program{bus};
     int clicks = 0;
+    int settings = 0;
+    int quits = 0;
     NotifierItem item{program.bus(), [this] { ++clicks; }};
-    NotifierMenu menu{program.bus(), [this] { ++clicks; }};
+    NotifierMenu menu{program.bus(),
+                      {.open = [this] { ++clicks; },
+                       .settings = [this] { ++settings; },
+                       .quit = [this] { ++quits; }}};
     FakePanel panel{bus};
 
     void SetUp() override { panel.registered.append(program.bus().baseService()); }
@@ -92,6 +97,17 @@ TEST_F(BusObjects, TellAllTheirPropertiesAtOnce) {
     EXPECT_EQ(menuProperties.value("IconThemePath"), QStringList());
 }
 
+TEST_F(BusObjects, HaveNoLabelPropertyWhileThereIsNoLabel) {
+    const auto hasLabel = [&] {
+        const QDBusMessage reply =
+            panel.callItem("GetAll", {"org.kde.StatusNotifierItem"}, kProperties);
+        return qdbus_cast<QVariantMap>(reply.arguments().value(0)).contains("XAyatanaLabel");
+    };
+    EXPECT_FALSE(hasLabel());
+    item.setFace({.label = "CPU   5%"});
+    EXPECT_TRUE(hasLabel());
+}
+
 TEST_F(BusObjects, DescribeThemselves) {
     const QDBusMessage reply =
         panel.callItem("Introspect", {}, "org.freedesktop.DBus.Introspectable");
@@ -104,11 +120,43 @@ TEST_F(BusObjects, HaveAMenuThatBeginsWithOpenAndShowsTheFigures) {
     const MenuLayout root = layout();
     EXPECT_EQ(root.id, 0);
     EXPECT_EQ(root.properties.value("children-display"), "submenu");
-    ASSERT_EQ(root.children.size(), 2);
+    ASSERT_EQ(root.children.size(), 4);
     EXPECT_EQ(root.children[0].properties.value("label"), "Open");
     EXPECT_EQ(root.children[0].properties.value("enabled"), true);
     EXPECT_EQ(root.children[1].properties.value("label"), "CPU   5%, a__b");
     EXPECT_EQ(root.children[1].properties.value("enabled"), false);
+    EXPECT_EQ(root.children[2].properties.value("label"), "Settings…");
+    EXPECT_EQ(root.children[3].properties.value("label"), "Quit");
+}
+
+TEST_F(BusObjects, DoWhatTheChosenEntrySays) {
+    const auto choose = [&](int index) {
+        const QVariant none = QVariant::fromValue(QDBusVariant(0));
+        panel.callMenu("Event", {layout().children.at(index).id, "clicked", none, 0U});
+    };
+    choose(0);
+    EXPECT_EQ(clicks, 1);
+    choose(1);  // the figures are there to be read
+    choose(2);
+    EXPECT_EQ(settings, 1);
+    choose(3);
+    EXPECT_EQ(quits, 1);
+    EXPECT_EQ(clicks + settings + quits, 3);
+}
+
+TEST_F(BusObjects, AnnounceALabelOnceAndAPictureOnlyWhenItChanges) {
+    item.setFace({.label = "CPU   5%"});
+    item.setFace({.label = "CPU   5%"});
+    panel.settle();
+    EXPECT_EQ(panel.signalCounts["XAyatanaNewLabel"], 1);
+    EXPECT_EQ(panel.signalCounts["NewIcon"], 0);
+    EXPECT_EQ(panel.property("XAyatanaLabel"), "CPU   5%");
+    EXPECT_EQ(panel.property("XAyatanaLabelGuide"), "CPU   5%");
+    item.setFace({.iconName = "/run/picture.png", .label = "CPU   5%"});
+    panel.settle();
+    EXPECT_EQ(panel.signalCounts["XAyatanaNewLabel"], 1);
+    EXPECT_EQ(panel.signalCounts["NewIcon"], 1);
+    EXPECT_EQ(panel.property("IconName"), "/run/picture.png");
 }
 
 TEST_F(BusObjects, GiveOnlyThePartOfTheMenuThatIsAskedFor) {
@@ -119,7 +167,7 @@ TEST_F(BusObjects, GiveOnlyThePartOfTheMenuThatIsAskedFor) {
     EXPECT_TRUE(ask(0, 0, {}).children.isEmpty());
     EXPECT_EQ(ask(1, -1, {}).properties.value("label"), "Open");
     const MenuLayout labels = ask(0, 1, {"label"});
-    ASSERT_EQ(labels.children.size(), 2);
+    ASSERT_EQ(labels.children.size(), 4);
     EXPECT_EQ(labels.children[0].properties.keys(), QStringList("label"));
 }
 
@@ -132,7 +180,21 @@ TEST_F(BusObjects, KnowWhetherTheMenuThatWasHandedOutIsStillTrue) {
     layout();
     menu.setFigures("CPU   5%");
     EXPECT_FALSE(isStale());
-    EXPECT_TRUE(panel.signalCounts.isEmpty());
+}
+
+TEST_F(BusObjects, TellAPanelThatIsAboutToShowTheMenuWhatItSaysNow) {
+    layout();
+    menu.setFigures("CPU   5%");
+    menu.setFigures("CPU   6%");
+    panel.settle();
+    EXPECT_TRUE(panel.signalCounts.isEmpty()) << "nobody looks";
+    EXPECT_TRUE(isStale());
+    panel.settle();
+    EXPECT_EQ(panel.signalCounts["ItemsPropertiesUpdated"], 1);
+    layout();
+    EXPECT_FALSE(isStale());
+    panel.settle();
+    EXPECT_EQ(panel.signalCounts["ItemsPropertiesUpdated"], 1);
 }
 
 TEST_F(BusObjects, CallTheActionForAClickOnOpenOnly) {
@@ -149,7 +211,7 @@ TEST_F(BusObjects, CallTheActionForAClickOnOpenOnly) {
 }
 
 TEST_F(BusObjects, RefuseMenuEntriesThatDoNotExist) {
-    for (const int id : {3, -1, kLowest, kHighest}) {
+    for (const int id : {5, -1, kLowest, kHighest}) {
         EXPECT_TRUE(isError(panel.callMenu("GetLayout", {id, kLowest, QStringList()}),
                             QDBusError::InvalidArgs));
         EXPECT_TRUE(isError(panel.callMenu("GetProperty", {id, "label"}), QDBusError::InvalidArgs));

@@ -28,7 +28,8 @@ protected:
 
     void makeItem(milliseconds patience = std::chrono::hours(1)) {
         item = std::make_unique<QtStatusItem>(
-            74, StatusItemServices{clickGuard, appearance, preferences}, bus.address(), patience);
+            74, StatusItemServices{clickGuard, appearance, preferences, {}, {}}, bus.address(),
+            patience);
         button().setToolTip("CPU   5%");
         button().setAccessibilityLabel("CPU   5%");
         button().setImage(sampleImage());
@@ -280,7 +281,7 @@ TEST_F(StatusItemOnABus, LooksAsTheSystemDoesWhereNoPanelCanBeSeen) {
 
 TEST_F(StatusItemOnABus, GivesTwoItemsAPlaceEach) {
     FakePanel panel(bus);
-    QtStatusBar bar({clickGuard, appearance, preferences}, bus.address());
+    QtStatusBar bar({clickGuard, appearance, preferences, {}, {}}, bus.address());
     const auto first = bar.statusItemWithLength(74);
     const auto second = bar.statusItemWithLength(74);
     EXPECT_TRUE(waitUntil([&] { return panel.registered.size() == 2; }));

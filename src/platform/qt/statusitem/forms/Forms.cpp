@@ -2,21 +2,31 @@
 // The choice of the form, in one place.
 #include "platform/qt/statusitem/forms/Forms.h"
 
+#include "platform/qt/statusitem/forms/LabelForm.h"
 #include "platform/qt/statusitem/forms/SquareForm.h"
 #include "platform/qt/statusitem/forms/WideForm.h"
 
 namespace zephrine {
 
-NotifierPixmaps pixmapsForHost(HostForm form, const StatusItemImage& image, Appearance appearance) {
+NotifierFace faceForHost(HostForm form, const StatusItemImage& image, Appearance appearance,
+                         PictureFiles& files) {
     switch (form) {
         case HostForm::wideDoubled:
-            return widePixmaps(image, 2, appearance);
+            return {.pixmaps = widePixmaps(image, 2, appearance)};
         case HostForm::wideExact:
-            return widePixmaps(image, 1, appearance);
+            return {.pixmaps = widePixmaps(image, 1, appearance)};
+        case HostForm::wideFile:
+            if (const QString file = files.write(image.wide, appearance); !file.isEmpty()) {
+                return {.iconName = file};
+            }
+            [[fallthrough]];  // the figures show as text then
+        case HostForm::labelled:
+            return labelledFace(image, appearance);
         case HostForm::squares:
-            return squarePixmaps(image, appearance);
+            return {.pixmaps = squarePixmaps(image, appearance)};
         case HostForm::mixed:
-            return squarePixmaps(image, appearance) + widePixmaps(image, 2, appearance);
+            return {.pixmaps =
+                        squarePixmaps(image, appearance) + widePixmaps(image, 2, appearance)};
     }
     return {};
 }

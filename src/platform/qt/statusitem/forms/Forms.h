@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
-// From a panel's form to the pictures that it is given.
+// From a panel's form to what the item shows there.
 #pragma once
 
 #include "platform/StatusBar.h"
 #include "platform/qt/statusitem/HostForm.h"
-#include "platform/qt/statusitem/NotifierPixmap.h"
+#include "platform/qt/statusitem/NotifierFace.h"
+#include "platform/qt/statusitem/forms/FileForm.h"
 
 namespace zephrine {
 
-[[nodiscard]] NotifierPixmaps pixmapsForHost(HostForm form, const StatusItemImage& image,
-                                             Appearance appearance);
+/// `files` is where a form that needs a file writes it.
+[[nodiscard]] NotifierFace faceForHost(HostForm form, const StatusItemImage& image,
+                                       Appearance appearance, PictureFiles& files);
 
 }  // namespace zephrine

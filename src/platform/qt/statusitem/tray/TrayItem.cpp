@@ -71,6 +71,10 @@ std::optional<QRect> TrayItem::place() const {
                                          : std::nullopt;
 }
 
+std::optional<Appearance> TrayItem::surface() const {
+    return presence_ == Presence::docked ? window_->surface() : std::nullopt;
+}
+
 void TrayItem::handle(const xcb_generic_event_t& event) {
     const int kind = event.response_type & 0x7f;
     if (kind == XCB_CLIENT_MESSAGE) {

@@ -34,6 +34,9 @@ public:
     /// In global logical coordinates; absent while it is not docked.
     [[nodiscard]] std::optional<QRect> place() const;
 
+    /// How the tray behind the item looks; absent when it cannot be told.
+    [[nodiscard]] std::optional<Appearance> surface() const;
+
     Q_SIGNAL void presenceChanged();
     Q_SIGNAL void placeChanged();
     Q_SIGNAL void clicked();

@@ -12,9 +12,9 @@ namespace zephrine {
 
 struct TrayLayout {
     bool isWide = false;
-    double scale = 0;  ///< device pixels per point of the wide picture
-    int side = 0;      ///< of the square, in device pixels
-    QPoint corner;     ///< of either, in the window
+    double scale = 0;    ///< device pixels per point of the wide picture
+    int side = 0;        ///< of the square, in device pixels
+    QPoint corner = {};  ///< of either, in the window
     bool operator==(const TrayLayout&) const = default;
 };
 

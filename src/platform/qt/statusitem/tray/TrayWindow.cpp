@@ -9,8 +9,10 @@
 #include <cstring>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/qt/drawing/RenderImage.h"
+#include "platform/qt/statusitem/PanelPixels.h"
 #include "platform/qt/statusitem/X11.h"
 #include "platform/qt/statusitem/tray/TrayLayout.h"
 
@@ -65,7 +67,7 @@ TrayWindow::~TrayWindow() {
 void TrayWindow::tellEmbedder() {
     xcb_connection_t* const x = connection_.get();
     constexpr std::string_view name = "Zephrine";
-    constexpr std::string_view classes{"zephrine\0Zephrine", 18};
+    constexpr std::string_view classes{"zephrine\0Zephrine\0", 18};
     constexpr std::array<std::uint32_t, 2> info{0, 1};  // version; wants to be mapped
     const auto [infoAtom, nameAtom, utf8] =
         internAtoms<3>(x, {"_XEMBED_INFO", "_NET_WM_NAME", "UTF8_STRING"});
@@ -190,6 +192,16 @@ QImage TrayWindow::picture() const {
     whole.fill(Qt::transparent);
     QPainter(&whole).drawImage(layout.corner, part);
     return whole;
+}
+
+std::optional<Appearance> TrayWindow::surface() const {
+    std::vector<std::uint32_t> pixels;
+    for (int y = 0; y < background_.height(); ++y) {
+        for (int x = 0; x < background_.width(); ++x) {
+            pixels.push_back(background_.pixel(x, y));
+        }
+    }
+    return appearanceOfPixels(pixels);
 }
 
 const QImage& TrayWindow::background() {

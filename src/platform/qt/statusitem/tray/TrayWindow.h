@@ -8,6 +8,7 @@
 #include <QRect>
 #include <QSize>
 #include <functional>
+#include <optional>
 
 #include "platform/StatusBar.h"
 #include "platform/qt/statusitem/tray/TrayConnection.h"
@@ -36,6 +37,8 @@ public:
     [[nodiscard]] bool isDocked() const { return isDocked_; }
     [[nodiscard]] xcb_window_t id() const { return window_; }
     [[nodiscard]] QSize size() const { return size_; }
+    /// How the tray behind the item looks; absent when it cannot be read.
+    [[nodiscard]] std::optional<Appearance> surface() const;
 
 private:
     void tellEmbedder();

@@ -1,0 +1,40 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Pictures of the item in each panel, for docs/desktops.md:
+ZEPHRINE=build/release/src/zephrine tests/desktop/gallery.py FOLDER [HOST...]"""
+import pathlib
+import sys
+import time
+
+import heavy_hosts
+import hosts
+from desktop import Desktop, wait_until
+from load import cpu_load
+from program import start
+from reading import figures
+
+HOSTS = hosts.BY_NAME | heavy_hosts.BY_NAME
+WIDTH, HEIGHT = 240, 32
+
+
+def take(folder, name):
+    host = HOSTS[name]
+    with Desktop(window_manager=host.window_manager) as desktop:
+        host.start(desktop)
+        time.sleep(1)
+        start(desktop)
+        wait_until(lambda: len(figures(desktop.picture(host.area))) >= 2, 20, "the item")
+        with cpu_load(30):
+            time.sleep(4)
+            _, top, right, bottom = host.area
+            top = top if top < 100 else bottom - HEIGHT
+            right = min(1000, right + 60)
+            box = (right - WIDTH, top, right, top + HEIGHT)
+            desktop.picture(box).resize((2 * WIDTH, 2 * HEIGHT)).save(folder / f"{name}.png")
+
+
+if __name__ == "__main__":
+    target = pathlib.Path(sys.argv[1])
+    target.mkdir(parents=True, exist_ok=True)
+    for chosen in sys.argv[2:] or HOSTS:
+        take(target, chosen)
