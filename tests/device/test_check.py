@@ -15,7 +15,8 @@ CARD = "0000:01:00.0"
 # Tells the fake library's figure, with the points in the file "off" added.
 NVIDIA_SMI = f"""#!/bin/sh
 case $1 in
-    *utilization.gpu) echo $(($(cat "$ZEPHRINE_FAKE_NVML/{CARD}") + $(cat "$ZEPHRINE_FAKE_NVML/off"))) ;;
+    *utilization.gpu)
+        cd "$ZEPHRINE_FAKE_NVML" && echo $(($(cat {CARD}) + $(cat off))) ;;
     *display_active) echo Disabled ;;
     *) echo "Fake GPU, 1.0, 00000000:01:00.0" ;;
 esac

@@ -18,10 +18,13 @@ namespace zephrine {
 
 namespace {
 
-/// Drivers that count each client's work, under the names of their devices' kernel drivers; the
-/// four before the last belong to Qualcomm's msm.
+/// Drivers that count each client's work, as their devices call them.
 constexpr std::array<std::string_view, 9> kFdinfoDrivers{
-    "xe", "panfrost", "panthor", "lima", "msm_dpu", "msm_mdp", "mdp4", "adreno", "etnaviv"};
+    "xe",                                     // Intel
+    "panfrost", "panthor", "lima",            // Arm
+    "msm_dpu",  "msm_mdp", "mdp4", "adreno",  // Qualcomm: all of them the msm driver
+    "etnaviv",                                // Vivante
+};
 
 std::unique_ptr<GPUSource> makeSource(const GraphicsCard& card, const GPUPlaces& places,
                                       const SecondsClock& clock, BackgroundThreads& threads) {

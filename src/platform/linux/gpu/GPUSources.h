@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one place where a driver's name leads to its source: a new one goes into the function body.
+// The one place where a driver's name leads to its source: a new maker's goes into `makeSource`.
 #pragma once
 
 #include <memory>
