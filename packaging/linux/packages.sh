@@ -24,8 +24,8 @@ test_packages=(
 )
 
 # The panels that the status item is tried on, a load to show, and what reads windows: off the
-# screen, out of their properties, and as a screen reader does; then readers of autostart entries, and
-# stand-ins for services.
+# screen, out of their properties, and as a screen reader does; then readers of autostart entries,
+# and stand-ins for services.
 # shellcheck disable=SC2034
 panel_packages=(
     lxqt-panel mate-panel libglib2.0-bin trayer tint2

@@ -1,7 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The status item in the panel that the environment variable ZEPHRINE_HOST names: it can be read
-there, a click opens the dashboard beside it, it outlives the panel, and it goes with the program."""
+there, a click opens the dashboard beside it, it outlives the panel, and it ends with the program.
+"""
 import os
 import signal
 import time

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Starting the program while it runs: the running one does what is asked for, the other one ends."""
+"""Starting the program while it runs: the running one does what is asked for, the other ends."""
 import contextlib
 import os
 import signal

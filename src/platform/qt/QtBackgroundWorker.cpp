@@ -1,28 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The worker's thread: SCHED_BATCH and a nice value, so that it never delays what the user does.
+// The worker's thread.
 #include "platform/qt/QtBackgroundWorker.h"
-
-#include <pthread.h>
-#include <sched.h>
-#include <sys/resource.h>
 
 #include <utility>
 
+#include "platform/linux/base/LowPriority.h"
+
 namespace zephrine {
-
-namespace {
-
-/// Both are wishes: where the system refuses, the jobs run at normal priority.
-void lowerOwnPriority() {
-    constexpr int niceValue = 10;
-    const sched_param parameters{};
-    pthread_setschedparam(pthread_self(), SCHED_BATCH, &parameters);
-    // On Linux the nice value belongs to the thread; 0 stands for the calling one (setpriority(2)).
-    setpriority(PRIO_PROCESS, 0, niceValue);
-    pthread_setname_np(pthread_self(), "zephrine-work");
-}
-
-}  // namespace
 
 QtBackgroundWorker::~QtBackgroundWorker() {
     {
@@ -48,7 +32,7 @@ void QtBackgroundWorker::perform(std::function<void()> job) {
 }
 
 void QtBackgroundWorker::runJobs() {
-    lowerOwnPriority();
+    becomeLowPriorityThread("zephrine-work");
     std::unique_lock lock(mutex_);
     while (!stopping_) {
         if (jobs_.empty()) {
