@@ -40,14 +40,21 @@ class Bus:
         return answer and answer[0]
 
     def item_of(self, pid):
-        """The item that the process `pid` has registered with the panel; None if there is none."""
+        """What the process `pid` says of its item, wherever that is shown; None if nothing."""
+        answer = self.call(message_bus.ListNames())
+        for name in answer[0] if answer else []:
+            if name.startswith(":") and self.pid(name) == pid:
+                item = Item(self, name, "/StatusNotifierItem")
+                if item.get("Id"):
+                    return item
+        return None
+
+    def is_in_panel(self, pid):
+        """Whether the panel has taken the item of the process `pid` from the bus."""
         watcher = DBusAddress("/StatusNotifierWatcher", WATCHER, WATCHER)
         answer = self.call(Properties(watcher).get("RegisteredStatusNotifierItems"))
-        for entry in answer[0][1] if answer else []:
-            name, slash, path = entry.partition("/")
-            if self.pid(name) == pid:
-                return Item(self, self.owner(name), slash + path)
-        return None
+        return any(self.pid(entry.partition("/")[0]) == pid for entry in answer[0][1]) \
+            if answer else False
 
     def signals(self, item, seconds):
         """The names of the signals that the item sends in `seconds`, one by one as they come."""

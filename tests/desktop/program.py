@@ -67,7 +67,7 @@ def changed_box(before, after):
 
 
 def wait_for_item(bus, process, timeout=10):
-    return wait_until(lambda: bus.item_of(process.pid), timeout, "the item in the panel")
+    return wait_until(lambda: bus.item_of(process.pid), timeout, "the item on the bus")
 
 
 def wait_for_text(item):

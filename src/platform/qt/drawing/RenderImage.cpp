@@ -29,12 +29,13 @@ QImage renderImage(const Image& image, double scale, Appearance appearance) {
         return {};
     }
     QImage pixels(width, height, QImage::Format_ARGB32_Premultiplied);
-    pixels.setDevicePixelRatio(scale);
     pixels.fill(Qt::transparent);
     QPainter painter(&pixels);
+    painter.scale(scale, scale);  // by the picture's own ratio, Qt never scales down
     QtDrawingContext context(painter, image.size.height, appearance);
     const bool drawn = image.drawingHandler(context);
     painter.end();
+    pixels.setDevicePixelRatio(scale);
     return drawn ? pixels : QImage();
 }
 

@@ -15,12 +15,15 @@ struct KnownHost {
     HostForm form;
 };
 
+// A panel of Xfce has its tray in a process of its own (panel-N-systray) or not.
+constexpr std::array<std::string_view, 2> kXfce{"panel-", "xfce4-panel"};
+
 constexpr std::array kKnownHosts{
     KnownHost{"waybar", HostForm::wideDoubled},
     KnownHost{"xapp-sn-watcher", HostForm::wideDoubled},  // Cinnamon
     KnownHost{"notification-ar", HostForm::wideExact},    // MATE: notification-area-applet
-    KnownHost{"panel-", HostForm::squares},               // Xfce: panel-N-systray
-    KnownHost{"xfce4-panel", HostForm::squares},
+    KnownHost{kXfce[0], HostForm::squares},
+    KnownHost{kXfce[1], HostForm::squares},
     KnownHost{"lxqt-panel", HostForm::squares},
     KnownHost{"kded", HostForm::squares},  // Plasma's watcher; the version number follows
     KnownHost{"plasmashell", HostForm::squares},
@@ -40,6 +43,11 @@ HostForm formOfHost(const HostProcess& host) {
         kKnownHosts.begin(), kKnownHosts.end(),
         [&](const KnownHost& candidate) { return host.command.starts_with(candidate.prefix); });
     return known == kKnownHosts.end() ? HostForm::mixed : known->form;
+}
+
+bool hasBetterTray(const HostProcess& host) {
+    return std::any_of(kXfce.begin(), kXfce.end(),
+                       [&](std::string_view prefix) { return host.command.starts_with(prefix); });
 }
 
 }  // namespace zephrine

@@ -18,4 +18,8 @@ enum class HostForm {
 
 [[nodiscard]] HostForm formOfHost(const HostProcess& host);
 
+/// Whether the panel squeezes the pictures of items, but leaves the windows in its tray of X11 as
+/// wide as they ask to be.
+[[nodiscard]] bool hasBetterTray(const HostProcess& host);
+
 }  // namespace zephrine

@@ -28,6 +28,7 @@ void HostWatcher::watcherOwnerChanged(const QString& owner) {
     ++generation_;
     registered_ = false;
     hasHost_ = false;
+    isHeldBack_ = false;
     if (std::exchange(process_, std::nullopt)) {
         changed_();
     }
@@ -35,12 +36,10 @@ void HostWatcher::watcherOwnerChanged(const QString& owner) {
         bus_.identify(owner, ifCurrent<HostProcess>([this](HostProcess process) {
                           process_ = std::move(process);
                           changed_();
-                          registerItem();
+                          offerItem();
                       }));
     } else if (isFirst) {
-        delay_.stop();
-        waiting_ = false;
-        setPresence(Presence::absent);
+        missPanel();
     }
     update();
 }
@@ -48,13 +47,38 @@ void HostWatcher::watcherOwnerChanged(const QString& owner) {
 void HostWatcher::hostsChanged() {
     if (registered_) {
         askForHost();
-    } else if (!owner_.isEmpty()) {
+    } else if (process_ && !isHeldBack_) {
         registerItem();
     }
 }
 
 void HostWatcher::busLost() {
     watcherOwnerChanged({});
+}
+
+void HostWatcher::setWanted(bool wanted) {
+    isWanted_ = wanted;
+    if (isWanted_ && std::exchange(isHeldBack_, false)) {
+        setPresence(Presence::unknown);
+        registerItem();
+        update();
+    }
+}
+
+void HostWatcher::offerItem() {
+    if (isWanted_) {
+        registerItem();
+    } else {
+        isHeldBack_ = true;
+        missPanel();
+    }
+}
+
+/// Without the delay.
+void HostWatcher::missPanel() {
+    delay_.stop();
+    waiting_ = false;
+    setPresence(Presence::absent);
 }
 
 void HostWatcher::registerItem() {

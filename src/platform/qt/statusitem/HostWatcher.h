@@ -26,12 +26,17 @@ public:
     /// The watcher has gained or lost a panel.
     void hostsChanged();
     void busLost();
+    /// Whether a panel is to be given the item; at first each one is. Without effect on one that
+    /// has it already.
+    void setWanted(bool wanted);
 
     [[nodiscard]] Presence presence() const { return presence_; }
     /// The watcher's process; absent while there is no watcher, and nobody asks for the item.
     [[nodiscard]] const std::optional<HostProcess>& process() const { return process_; }
 
 private:
+    void offerItem();
+    void missPanel();
     void registerItem();
     void askForHost();
     void update();
@@ -46,6 +51,8 @@ private:
     Presence presence_ = Presence::unknown;
     std::optional<HostProcess> process_;
     QString owner_;
+    bool isWanted_ = true;
+    bool isHeldBack_ = false;  ///< from the panel that there is
     bool answered_ = false;
     bool registered_ = false;
     bool hasHost_ = false;

@@ -29,7 +29,11 @@ QtStatusItem::QtStatusItem(double length, const StatusItemServices& services,
       button_(connection_.bus(), services),
       delay_(patience),
       hostBus_(connection_.bus()),
-      watcher_(hostBus_, delay_, [this] { button_.hostChanged(watcher_); }) {
+      watcher_(hostBus_, delay_, [this] {
+          button_.hostChanged(watcher_);
+          watcher_.setWanted(!button_.prefersTray());
+      }) {
+    button_.setPreferenceChanged([this] { watcher_.setWanted(!button_.prefersTray()); });
     setLength(length);
     hostBus_.start(watcher_);
 }

@@ -16,9 +16,14 @@ namespace zephrine {
 
 namespace {
 
-/// Absent where nobody tells it: a Wayland session hides the pointer from X11 programs, too.
+/// And not just beside it: a Wayland session has an X server, too.
+bool isOnX11() {
+    return x11Connection() != nullptr && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+/// Absent where nobody tells it: a Wayland session hides the pointer from X11 programs.
 std::optional<QRect> pointerRect() {
-    if (x11Connection() == nullptr || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
+    if (!isOnX11()) {
         return std::nullopt;
     }
     const QPoint pointer = QCursor::pos();
@@ -45,7 +50,7 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
       drawnFor_(told_) {
     connect(&strip_, &QPushButton::clicked, this, [this] { clicked(); });
     connect(&tray_, &TrayItem::clicked, this, [this] { clicked(); });
-    connect(&tray_, &TrayItem::presenceChanged, this, [this] { placeChanged(); });
+    connect(&tray_, &TrayItem::presenceChanged, this, [this] { trayChanged(); });
     connect(&tray_, &TrayItem::placeChanged, this, &ItemAnchor::anchorChanged);
     strip_.setAccessibleDescription("Zephrine");
 }
@@ -67,7 +72,9 @@ void QtStatusItemButton::setToolTip(const std::string& text) {
     const QString plain = withoutMarkup(fromUTF8(text));
     item_.setToolTip(plain);
     menu_.setFigures(plain);
-    strip_.setToolTip(shownLiterally(fromUTF8(text)));
+    const QString tip = shownLiterally(fromUTF8(text));
+    strip_.setToolTip(tip);
+    tray_.setToolTip(tip);
 }
 
 void QtStatusItemButton::setAccessibilityLabel(const std::string& text) {
@@ -99,7 +106,28 @@ std::optional<QRect> QtStatusItemButton::anchorRect() const {
 void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {
     host_ = watcher.process();
     isInPanel_ = watcher.presence() != HostWatcher::Presence::absent;
-    tray_.setWanted(!isInPanel_);
+    trayHasFailed_ = trayHasFailed_ && host_;
+    if (prefersTray()) {
+        tray_.expectTray();
+    } else {
+        tray_.setWanted(!isInPanel_);
+    }
+    placeChanged();
+}
+
+bool QtStatusItemButton::prefersTray() const {
+    return host_ && hasBetterTray(*host_) && isOnX11() && !trayHasFailed_;
+}
+
+void QtStatusItemButton::setPreferenceChanged(std::function<void()> handler) {
+    preferenceChanged_ = std::move(handler);
+}
+
+void QtStatusItemButton::trayChanged() {
+    if (tray_.presence() == TrayItem::Presence::absent && prefersTray()) {
+        trayHasFailed_ = true;
+        preferenceChanged_();
+    }
     placeChanged();
 }
 
@@ -130,13 +158,14 @@ void QtStatusItemButton::clicked() {
 void QtStatusItemButton::placeChanged() {
     const bool isInTray = tray_.presence() == TrayItem::Presence::docked;
     panelAppearance_.setHost(isInPanel_ ? host_
-                             : isInTray ? std::optional(HostProcess())  // who it is, nobody says
+                             // Whose tray it is, nobody says, but the panel may be there as well.
+                             : isInTray ? std::optional(host_.value_or(HostProcess()))
                                         : std::nullopt);
     show();
 }
 
 void QtStatusItemButton::show() {
-    if (host_) {
+    if (host_ && isInPanel_) {
         item_.setFace(faceForHost(formOfHost(*host_), image_, drawnFor_, files_));
     }
     if (!isInPanel_) {

@@ -47,6 +47,10 @@ public:
     [[nodiscard]] std::optional<QRect> anchorRect() const override;
 
     void hostChanged(const HostWatcher& watcher);
+    /// Whether the panel should not be given the item, since its tray shows it better.
+    [[nodiscard]] bool prefersTray() const;
+    /// Set once; called when that has changed while the panel has not.
+    void setPreferenceChanged(std::function<void()> handler);
     [[nodiscard]] StatusStrip& strip() { return strip_; }
 
 private:
@@ -55,6 +59,7 @@ private:
     void performLater(std::function<void()> action);
     void clicked();
     void show();
+    void trayChanged();
     void placeChanged();
 
     StatusItemServices services_;
@@ -67,6 +72,7 @@ private:
     mutable PanelAppearance panelAppearance_;
 
     std::function<void()> action_;
+    std::function<void()> preferenceChanged_;
     StatusItemImage image_;
     std::string toolTip_;
     std::string label_;
@@ -74,7 +80,8 @@ private:
     mutable Appearance told_;
     Appearance drawnFor_;
     std::optional<HostProcess> host_;
-    bool isInPanel_ = true;  ///< until it is known that there is none
+    bool trayHasFailed_ = false;  ///< the panel's, which was expected to take the item
+    bool isInPanel_ = true;       ///< until it is known that there is none
     bool clickIsQueued_ = false;
     std::optional<QRect> lastClick_;
 };

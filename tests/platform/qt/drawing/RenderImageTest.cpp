@@ -52,6 +52,19 @@ TEST(RenderImage, PutsTheOriginAtTheLowerLeft) {
     EXPECT_EQ(image.pixel(0, 13), 0U);
 }
 
+TEST(RenderImage, DrawsSmallerThanTheSizeInPoints) {
+    const Image corner{{40, 40}, [](DrawingContext& context) {
+                           context.setFill(Color::black);
+                           context.fillRect({30, 30, 10, 10});
+                           return true;
+                       }};
+    const QImage image = renderImage(corner, 0.5, Appearance::aqua);
+    EXPECT_EQ(image.size(), QSize(20, 20));
+    EXPECT_EQ(image.pixel(15, 4), 0xFF000000U);
+    EXPECT_EQ(image.pixel(14, 4), 0U);
+    EXPECT_EQ(image.pixel(15, 5), 0U);
+}
+
 TEST(RenderImage, ResolvesColoursByTheAppearance) {
     const Image filled{{2, 2}, [](DrawingContext& context) {
                            context.setFill(Color::systemGreenColor);

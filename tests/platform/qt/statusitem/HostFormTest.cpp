@@ -34,6 +34,17 @@ TEST(HostForm, GivesGNOMEAFileSinceItsVersion45AndALabelBefore) {
     EXPECT_EQ(formOfGNOME(std::nullopt), HostForm::labelled) << "it did not tell";
 }
 
+TEST(HostForm, KnowsWhoseTrayIsBetter) {
+    const auto isBetter = [](const char* command) {
+        return hasBetterTray({.pid = 42, .command = command});
+    };
+    EXPECT_TRUE(isBetter("panel-3-systray"));
+    EXPECT_TRUE(isBetter("xfce4-panel"));
+    for (const char* command : {"", "lxqt-panel", "notification-ar", "plasmashell", "panel"}) {
+        EXPECT_FALSE(isBetter(command)) << command;
+    }
+}
+
 TEST(HostForm, GivesBothToAPanelThatItDoesNotKnow) {
     for (const char* command : {"", "w", "my-panel", "Waybar"}) {
         EXPECT_EQ(formOf(command), HostForm::mixed) << command;

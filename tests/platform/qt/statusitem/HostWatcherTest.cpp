@@ -229,6 +229,68 @@ TEST_F(HostWatch, MissesThePanelWhenTheBusGoesAway) {
     EXPECT_EQ(watcher.presence(), Presence::absent);
 }
 
+TEST_F(HostWatch, HoldsTheItemBackFromAPanelThatIsNotToHaveIt) {
+    watcher.start(true);
+    watcher.setWanted(false);
+    watcher.watcherOwnerChanged(":1.5");
+    answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
+    watcher.hostsChanged();
+    EXPECT_TRUE(bus.registrations.empty());
+    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(watcher.process()->command, "panel-1-systray");
+    EXPECT_FALSE(delay.pending);
+}
+
+TEST_F(HostWatch, OffersTheItemThatItHeldBack) {
+    watcher.start(true);
+    watcher.setWanted(false);
+    watcher.watcherOwnerChanged(":1.5");
+    answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
+    watcher.setWanted(true);
+    EXPECT_EQ(watcher.presence(), Presence::unknown);
+    answerNext(bus.registrations, true);
+    answerNext(bus.hostQuestions, true);
+    EXPECT_EQ(watcher.presence(), Presence::present);
+}
+
+TEST_F(HostWatch, GivesUpOnAPanelThatIsSilentWhenOfferedWhatWasHeldBack) {
+    watcher.start(true);
+    watcher.setWanted(false);
+    watcher.watcherOwnerChanged(":1.5");
+    answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
+    watcher.setWanted(true);
+    delay.elapse();
+    EXPECT_EQ(watcher.presence(), Presence::absent);
+}
+
+TEST_F(HostWatch, OffersTheItemOnceToAPanelThatIsToHaveItAgain) {
+    startWithPanel();
+    watcher.setWanted(false);
+    watcher.setWanted(true);
+    EXPECT_TRUE(bus.registrations.empty());
+    EXPECT_EQ(watcher.presence(), Presence::present);
+}
+
+TEST_F(HostWatch, OffersTheNextPanelWhatItHeldBackFromTheLast) {
+    watcher.start(true);
+    watcher.setWanted(false);
+    watcher.watcherOwnerChanged(":1.5");
+    answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
+    watcher.watcherOwnerChanged("");
+    watcher.setWanted(true);
+    EXPECT_TRUE(bus.registrations.empty());
+    watcher.watcherOwnerChanged(":1.9");
+    answerAll("lxqt-panel");
+    EXPECT_EQ(watcher.presence(), Presence::present);
+}
+
+TEST_F(HostWatch, DoesNotRegisterBeforeItKnowsTheProcess) {
+    watcher.start(true);
+    watcher.watcherOwnerChanged(":1.5");
+    watcher.hostsChanged();
+    EXPECT_TRUE(bus.registrations.empty());
+}
+
 TEST_F(HostWatch, AsksOnceWhenItIsToldTheSameOwnerTwice) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");

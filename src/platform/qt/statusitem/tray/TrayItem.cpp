@@ -3,8 +3,11 @@
 // when it appears: https://specifications.freedesktop.org/systemtray-spec.
 #include "platform/qt/statusitem/tray/TrayItem.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QCursor>
 #include <QScreen>
+#include <QStyle>
+#include <QToolTip>
 #include <array>
 #include <chrono>
 #include <string>
@@ -32,6 +35,9 @@ TrayItem::TrayItem() {
     patience_.setSingleShot(true);
     patience_.setInterval(kPatience);
     patience_.callOnTimeout([this] { setPresence(Presence::absent); });
+    rest_.setSingleShot(true);
+    rest_.setInterval(QApplication::style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay));
+    rest_.callOnTimeout([this] { QToolTip::showText(QCursor::pos(), toolTip_); });
 }
 
 void TrayItem::setWanted(bool wanted) {
@@ -57,12 +63,19 @@ void TrayItem::setWanted(bool wanted) {
     }
 }
 
+void TrayItem::expectTray() {
+    setWanted(true);
+    if (presence_ == Presence::absent) {
+        patience_.start();
+        setPresence(Presence::unknown);
+    }
+}
+
 void TrayItem::setPicture(const StatusItemImage& image, Appearance appearance) {
     image_ = image;
     appearance_ = appearance;
     if (window_) {
-        window_->setPicture(image_, appearance_,
-                            QGuiApplication::primaryScreen()->devicePixelRatio());
+        window_->setPicture(image_, appearance_, QApplication::primaryScreen()->devicePixelRatio());
     }
 }
 
@@ -88,6 +101,15 @@ void TrayItem::handle(const xcb_generic_event_t& event) {
         findManager();
     } else if (window_) {
         window_->handle(event);
+    }
+}
+
+void TrayItem::hovered(bool isOver) {
+    if (isOver) {
+        rest_.start();
+    } else {
+        rest_.stop();
+        QToolTip::hideText();
     }
 }
 
@@ -128,11 +150,17 @@ void TrayItem::dockWith(xcb_window_t manager) {
                                      QMetaObject::invokeMethod(
                                          this, [this] { leaveTray(); }, Qt::QueuedConnection);
                                  },
-                             .clicked = [this] { Q_EMIT clicked(); }});
+                             .clicked =
+                                 [this] {
+                                     hovered(false);
+                                     Q_EMIT clicked();
+                                 },
+                             .hovered = [this](bool isOver) { hovered(isOver); }});
     setPicture(image_, appearance_);
 }
 
 void TrayItem::leaveTray() {
+    hovered(false);
     manager_ = XCB_WINDOW_NONE;
     window_.reset();
     if (presence_ == Presence::docked) {

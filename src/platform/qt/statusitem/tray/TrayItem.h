@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QRect>
+#include <QString>
 #include <QTimer>
 #include <memory>
 #include <optional>
@@ -29,8 +30,12 @@ public:
 
     /// Whether the item should stand in a tray at all; it does not at first.
     void setWanted(bool wanted);
+    /// It should, and a tray is there or about to come: it is missed only after three seconds.
+    void expectTray();
     [[nodiscard]] Presence presence() const { return presence_; }
     void setPicture(const StatusItemImage& image, Appearance appearance);
+    /// Shown beside the item while the pointer rests on it.
+    void setToolTip(const QString& text) { toolTip_ = text; }
     /// In global logical coordinates; absent while it is not docked.
     [[nodiscard]] std::optional<QRect> place() const;
 
@@ -43,6 +48,7 @@ public:
 
 private:
     void handle(const xcb_generic_event_t& event);
+    void hovered(bool isOver);
     void findManager();
     void dockWith(xcb_window_t manager);
     void leaveTray();
@@ -54,6 +60,8 @@ private:
     xcb_window_t manager_ = XCB_WINDOW_NONE;
     std::unique_ptr<TrayWindow> window_;
     QTimer patience_;
+    QTimer rest_;  ///< of the pointer, until the tip is shown
+    QString toolTip_;
     StatusItemImage image_;
     Appearance appearance_ = Appearance::aqua;
     Presence presence_ = Presence::absent;

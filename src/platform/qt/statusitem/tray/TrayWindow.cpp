@@ -20,8 +20,9 @@ namespace zephrine {
 
 namespace {
 
-constexpr std::uint32_t kEvents =
-    XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+constexpr std::uint32_t kEvents = XCB_EVENT_MASK_EXPOSURE | XCB_EVENT_MASK_STRUCTURE_NOTIFY |
+                                  XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_ENTER_WINDOW |
+                                  XCB_EVENT_MASK_LEAVE_WINDOW;
 
 std::uint16_t extent(int pixels) {
     return static_cast<std::uint16_t>(pixels);
@@ -156,6 +157,13 @@ void TrayWindow::handle(const xcb_generic_event_t& event) {
                 xcb_ungrab_pointer(connection_.get(), press.time);
                 connection_.flush();
                 handlers_.clicked();
+            }
+            break;
+        case XCB_ENTER_NOTIFY:
+        case XCB_LEAVE_NOTIFY:  // both are events of one form
+            if (const auto& crossing = as<xcb_enter_notify_event_t>(event);
+                crossing.event == window_) {
+                handlers_.hovered((crossing.response_type & 0x7f) == XCB_ENTER_NOTIFY);
             }
             break;
         default:

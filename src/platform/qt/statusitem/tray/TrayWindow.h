@@ -22,6 +22,7 @@ public:
         std::function<void()> placed;  ///< taken in, or given another size
         std::function<void()> lost;    ///< the tray has let it go; destroy it, but not at once
         std::function<void()> clicked;
+        std::function<void(bool)> hovered;  ///< whether the pointer has come, or gone
     };
 
     /// Asks `manager`, the tray's window, to take it in. `connection` outlives it.

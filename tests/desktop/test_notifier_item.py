@@ -1,0 +1,78 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The status item on the bus, and a real panel that takes it from there: that of LXQt."""
+import contextlib
+import signal
+import unittest
+from collections import Counter
+
+import hosts
+from bus import Bus
+from desktop import wait_until
+from load import cpu_load
+from program import DesktopTestCase, start, wait_for_item, wait_for_text
+
+PANEL = (0, 728, 1000, 760)
+
+
+def start_in_panel(desktop, bus):
+    program = start(desktop)
+    wait_until(lambda: bus.is_in_panel(program.pid), 10, "the item in the panel")
+    return program
+
+
+class NotifierItem(DesktopTestCase):
+    def test_the_item_says_what_it_is(self):
+        with self.desktop() as desktop, Bus(desktop.bus_address) as bus:
+            hosts.lxqt(desktop)
+            empty = desktop.picture(PANEL)
+            item = wait_for_item(bus, start_in_panel(desktop, bus))
+            wait_until(lambda: desktop.picture(PANEL) != empty, 10, "pixels of the item")
+            self.assertEqual(item.get("Category"), "SystemServices")
+            self.assertIs(item.get("ItemIsMenu"), False)
+            self.assertEqual(item.path, "/StatusNotifierItem")
+
+    def test_signals_are_sent_for_changes_only(self):
+        with self.desktop() as desktop, Bus(desktop.bus_address) as bus:
+            hosts.lxqt(desktop)
+            item = wait_for_item(bus, start_in_panel(desktop, bus))
+            wait_for_text(item)
+            read = {"NewIcon": lambda: (item.get("IconName"), item.get("IconPixmap")),
+                    "NewToolTip": lambda: item.get("ToolTip"),
+                    "NewTitle": lambda: item.get("Title")}
+            last = {name: value() for name, value in read.items()}
+            seen = Counter()
+            with cpu_load(50), contextlib.closing(bus.signals(item, seconds=30)) as signals:
+                for name in signals:
+                    self.assertIn(name, read)
+                    value = read[name]()
+                    self.assertTrue(value != last[name], f"{name} without a change")
+                    last[name] = value
+                    seen[name] += 1
+                    if min(seen["NewIcon"], seen["NewToolTip"]) >= 4:
+                        break
+            self.assertGreater(seen["NewIcon"], 0)
+            self.assertGreater(seen["NewToolTip"], 0)
+
+    def test_a_new_panel_gets_the_item_at_once(self):
+        with self.desktop() as desktop, Bus(desktop.bus_address) as bus:
+            panel = hosts.lxqt(desktop)
+            program = start_in_panel(desktop, bus)
+            panel.kill()
+            panel.wait()
+            wait_until(lambda: not bus.owner("org.kde.StatusNotifierWatcher"), 10,
+                       "the end of the panel's tray")
+            hosts.lxqt(desktop)
+            wait_until(lambda: bus.is_in_panel(program.pid), 3, "the item in the new panel")
+
+    def test_sigterm_takes_the_item_away_and_ends_well(self):
+        with self.desktop() as desktop, Bus(desktop.bus_address) as bus:
+            hosts.lxqt(desktop)
+            program = start_in_panel(desktop, bus)
+            program.send_signal(signal.SIGTERM)
+            wait_until(lambda: not bus.is_in_panel(program.pid), 2, "the item's end")
+            self.assertEqual(program.wait(timeout=5), 0)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
