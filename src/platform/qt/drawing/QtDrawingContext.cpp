@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QLineF>
 #include <QVarLengthArray>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/qt/drawing/Colors.h"
@@ -21,6 +22,27 @@ QPointF onDeviceRow(const QPainter& painter, QPointF point) {
     QPointF device = toDevice.map(point);
     device.setY(std::round(device.y()));
     return toDevice.inverted().map(device);
+}
+
+bool areLevel(const QVarLengthArray<QLineF, 512>& lines) {
+    return std::all_of(lines.begin(), lines.end(),
+                       [](const QLineF& line) { return line.dy() == 0; });
+}
+
+/// Draws level lines no thicker than a device pixel, each in one row of pixels: where it falls
+/// between two rows, it would be a blur of twice the height.
+void drawHairlines(QPainter& painter, QVarLengthArray<QLineF, 512>& lines, QColor color,
+                   double thickness) {
+    const QTransform& toDevice = painter.deviceTransform();
+    for (QLineF& line : lines) {
+        QPointF device = toDevice.map(line.p1());
+        device.setY(std::floor(device.y()) + 0.5);
+        const double y = toDevice.inverted().map(device).y();
+        line = QLineF(line.x1(), y, line.x2(), y);
+    }
+    color.setAlphaF(color.alphaF() * static_cast<float>(thickness));
+    painter.setPen(QPen(color, 1 / toDevice.m22(), Qt::SolidLine, Qt::FlatCap));
+    painter.drawLines(lines.constData(), static_cast<int>(lines.size()));
 }
 
 }  // namespace
@@ -72,6 +94,11 @@ void QtDrawingContext::stroke(const Path& path) {
             lines.append(QLineF(last, point));
         }
         last = point;
+    }
+    const double thickness = path.lineWidth * painter_.deviceTransform().m22();
+    if (thickness <= 1 && areLevel(lines)) {
+        drawHairlines(painter_, lines, stroke_, thickness);
+        return;
     }
     const auto cap = path.lineJoin == LineJoin::round ? Qt::SquareCap : Qt::FlatCap;
     painter_.setPen(QPen(stroke_, path.lineWidth, Qt::SolidLine, cap));

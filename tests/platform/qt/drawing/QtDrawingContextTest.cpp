@@ -65,6 +65,31 @@ TEST(QtDrawingContext, StrokesLinesWithoutAGapBetweenThem) {
     EXPECT_EQ(qAlpha(image.pixel(20, 38)), 0) << "nothing joins the two ends";
 }
 
+TEST(QtDrawingContext, DrawsAThinLevelLineInOneRowOfPixels) {
+    for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+        for (const double y : {10.0, 10.25, 10.5}) {
+            const QImage image = draw({20, 20}, scale, [&](DrawingContext& context) {
+                Path line;
+                line.lineWidth = 0.5;
+                line.moveTo({0, y});
+                line.lineTo({20, y});
+                context.setStroke(Color::black);
+                context.stroke(line);
+            });
+            int rows = 0;
+            for (int row = 0; row < image.height(); ++row) {
+                const int alpha = qAlpha(image.pixel(image.width() / 2, row));
+                if (alpha > 4) {
+                    ++rows;
+                    EXPECT_NEAR(alpha, 255 * 0.5 * scale, 4) << "at " << scale;
+                    EXPECT_NEAR(row, (20 - y) * scale, 1) << "at " << scale;
+                }
+            }
+            EXPECT_EQ(rows, 1) << "at " << scale << " and " << y;
+        }
+    }
+}
+
 TEST(QtDrawingContext, DrawsNothingBetweenTwoStretches) {
     Path path;
     path.moveTo({0, 5});
