@@ -52,8 +52,11 @@ def choose(desktop, process, row, item):
                      if e["name"] == item and e is not button and "showing" in e["states"]), None)
 
     click(desktop, middle(wait_until(entry, 5, f"{item} in the list of {row}")))
-    wait_until(lambda: "expanded" not in find(elements(desktop, process), "combo box", row)["states"],
-               5, f"the end of the list of {row}")
+
+    def is_closed():
+        return "expanded" not in find(elements(desktop, process), "combo box", row)["states"]
+
+    wait_until(is_closed, 5, f"the end of the list of {row}")
 
 
 def tick_login(desktop, process):

@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """The status item in the panel of Xfce: it shows, it tells the truth, it follows the panel."""
 import ctypes
+import re
 import unittest
 
 from PIL import ImageStat
@@ -14,6 +15,7 @@ from program import (PROGRAM, DesktopTestCase, changed_box, click, dashboard, st
                      wait_for_text)
 
 PANEL = (0, 0, 1000, 28)
+HORIZONTAL, VERTICAL = 0, 1
 
 
 class XfcePanel(DesktopTestCase):
@@ -27,6 +29,16 @@ class XfcePanel(DesktopTestCase):
                 lambda: changed_box(empty, desktop.settled_picture(PANEL)), 10, "the item")
             self.assertTrue(50 < right - left < 76, right - left)
             self.assertFalse(bus.is_in_panel(program.pid), "it stands in the panel's tray of X11")
+
+    def test_the_item_is_a_square_while_the_panel_stands_upright(self):
+        with self.desktop() as desktop:
+            hosts.xfce(desktop, edge="left")
+            start(desktop)
+            wait_until(lambda: size_in_tray(desktop) == (22, 22), 10, "a square")
+            set_mode(desktop, HORIZONTAL)
+            wait_until(lambda: (size_in_tray(desktop) or (0, 0))[0] > 50, 10, "the wide item")
+            set_mode(desktop, VERTICAL)
+            wait_until(lambda: size_in_tray(desktop) == (22, 22), 10, "a square again")
 
     def test_a_tray_of_x11_that_does_not_answer_leaves_the_item_to_the_panel(self):
         with self.desktop() as desktop, Bus(desktop.bus_address) as bus:
@@ -97,6 +109,18 @@ class XfcePanel(DesktopTestCase):
             self.assertIsNone(dashboard(desktop, first))
             self.assertEqual(start(desktop).wait(timeout=10), 0)
             wait_until(lambda: dashboard(desktop, first), 5, "the dashboard")
+
+
+def set_mode(desktop, mode):
+    desktop.run("xfconf-query", "--channel", "xfce4-panel", "--property", "/panels/panel-1/mode",
+                "--set", str(mode))
+
+
+def size_in_tray(desktop):
+    """Of the item's window; None where it has none in a tray."""
+    tree = desktop.run("xwininfo", "-root", "-tree")
+    found = re.search(r'"Zephrine": \("zephrine" "Zephrine"\) +(\d+)x(\d+)', tree)
+    return found and (int(found[1]), int(found[2]))
 
 
 def take_the_tray(desktop):

@@ -212,7 +212,8 @@ ANALYZER = [
         ),
         new=(
             "const CFDictionaryRef matching = ::IOServiceMatching(std::string(name).c_str());\n"
-            "const auto result = ::IOServiceGetMatchingServices(kIOMainPortDefault, matching, &iterator);\n"
+            "const auto result =\n"
+            "    ::IOServiceGetMatchingServices(kIOMainPortDefault, matching, &iterator);\n"
             "CFRelease(matching);\n"
             "if (result != KERN_SUCCESS) {"
         ),

@@ -24,7 +24,8 @@ OPERATIONS = {
     "Processes": """::proc_listallpids( ::proc_pid_rusage( ::proc_name( ::mach_absolute_time(
         ::getpid(""",
     "Formatting": "stringFromByteCount: localizedStringFromNumber:",
-    "Login item": "SMAppService.mainAppService.status registerAndReturnError: unregisterAndReturnError:",
+    "Login item": """SMAppService.mainAppService.status registerAndReturnError:
+        unregisterAndReturnError:""",
     "Status item": """statusItemWithLength: removeStatusItem: autosaveName item_.length item_.button
         effectiveAppearance bestMatchFromAppearancesWithNames: NSAppearanceNameDarkAqua
         button_.toolTip button_.accessibilityLabel button_.image button_.target button_.action""",

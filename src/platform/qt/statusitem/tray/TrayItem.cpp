@@ -14,7 +14,6 @@
 #include <utility>
 
 #include "platform/qt/statusitem/X11.h"
-#include "platform/qt/statusitem/tray/TrayVisual.h"
 #include "platform/qt/windows/X11Windows.h"
 
 namespace zephrine {
@@ -24,8 +23,7 @@ namespace {
 // For a tray that was asked to take the item in, or to come back after it has gone.
 constexpr std::chrono::seconds kPatience{3};
 
-void listen(xcb_connection_t* connection, xcb_window_t window) {
-    constexpr std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+void listen(xcb_connection_t* connection, xcb_window_t window, std::uint32_t mask) {
     xcb_change_window_attributes(connection, window, XCB_CW_EVENT_MASK, &mask);
 }
 
@@ -58,7 +56,7 @@ void TrayItem::setWanted(bool wanted) {
         const auto atoms = internAtoms<2>(connection_->get(), {"_NET_SYSTEM_TRAY_S0", "MANAGER"});
         selection_ = atoms[0];
         managerMessage_ = atoms[1];
-        listen(connection_->get(), connection_->screen().root);
+        listen(connection_->get(), connection_->screen().root, XCB_EVENT_MASK_STRUCTURE_NOTIFY);
         findManager();
     }
 }
@@ -99,6 +97,13 @@ void TrayItem::handle(const xcb_generic_event_t& event) {
                reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == manager_) {
         leaveTray();
         findManager();
+    } else if (kind == XCB_PROPERTY_NOTIFY &&
+               reinterpret_cast<const xcb_property_notify_event_t&>(event).window == manager_) {
+        // A panel that is moved to another edge turns its tray as well.
+        if (hintsOfTray(connection_->get(), connection_->screen(), manager_) != hints_) {
+            dockWith(manager_);
+            connection_->flush();
+        }
     } else if (window_) {
         window_->handle(event);
     }
@@ -127,9 +132,10 @@ void TrayItem::findManager() {
 void TrayItem::dockWith(xcb_window_t manager) {
     leaveTray();
     manager_ = manager;
-    listen(connection_->get(), manager);
-    const auto visual = visualOfTray(connection_->get(), connection_->screen(), manager);
-    if (!visual) {
+    listen(connection_->get(), manager,
+           XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
+    hints_ = hintsOfTray(connection_->get(), connection_->screen(), manager);
+    if (!hints_) {
         return;
     }
     if (presence_ == Presence::absent) {
@@ -137,7 +143,7 @@ void TrayItem::dockWith(xcb_window_t manager) {
     }
     patience_.start();
     window_ = std::make_unique<TrayWindow>(
-        *connection_, manager, *visual,
+        *connection_, manager, *hints_,
         TrayWindow::Handlers{.placed =
                                  [this] {
                                      patience_.stop();

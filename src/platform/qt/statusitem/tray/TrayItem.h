@@ -12,6 +12,7 @@
 
 #include "platform/StatusBar.h"
 #include "platform/qt/statusitem/tray/TrayConnection.h"
+#include "platform/qt/statusitem/tray/TrayHints.h"
 #include "platform/qt/statusitem/tray/TrayWindow.h"
 
 namespace zephrine {
@@ -58,6 +59,7 @@ private:
     xcb_atom_t selection_ = XCB_ATOM_NONE;
     xcb_atom_t managerMessage_ = XCB_ATOM_NONE;
     xcb_window_t manager_ = XCB_WINDOW_NONE;
+    std::optional<TrayHints> hints_;  ///< the manager's
     std::unique_ptr<TrayWindow> window_;
     QTimer patience_;
     QTimer rest_;  ///< of the pointer, until the tip is shown

@@ -35,21 +35,21 @@ const Event& as(const xcb_generic_event_t& event) {
 
 }  // namespace
 
-TrayWindow::TrayWindow(TrayConnection& connection, xcb_window_t manager, const TrayVisual& visual,
+TrayWindow::TrayWindow(TrayConnection& connection, xcb_window_t manager, const TrayHints& hints,
                        Handlers handlers)
-    : connection_(connection), visual_(visual), handlers_(std::move(handlers)) {
+    : connection_(connection), hints_(hints), handlers_(std::move(handlers)) {
     xcb_connection_t* const x = connection_.get();
     const xcb_screen_t& screen = connection_.screen();
     window_ = xcb_generate_id(x);
     graphics_ = xcb_generate_id(x);
     colormap_ = xcb_generate_id(x);
-    xcb_create_colormap(x, XCB_COLORMAP_ALLOC_NONE, colormap_, screen.root, visual_.id);
+    xcb_create_colormap(x, XCB_COLORMAP_ALLOC_NONE, colormap_, screen.root, hints_.visual);
     // Without alpha the window shows what its parent shows behind it.
-    const std::uint32_t background = visual_.hasAlpha() ? 0 : XCB_BACK_PIXMAP_PARENT_RELATIVE;
-    const std::uint32_t kind = visual_.hasAlpha() ? XCB_CW_BACK_PIXEL : XCB_CW_BACK_PIXMAP;
+    const std::uint32_t background = hints_.hasAlpha() ? 0 : XCB_BACK_PIXMAP_PARENT_RELATIVE;
+    const std::uint32_t kind = hints_.hasAlpha() ? XCB_CW_BACK_PIXEL : XCB_CW_BACK_PIXMAP;
     const std::array<std::uint32_t, 4> values{background, 0, kEvents, colormap_};
-    xcb_create_window(x, visual_.depth, window_, screen.root, 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, visual_.id,
+    xcb_create_window(x, hints_.depth, window_, screen.root, 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, hints_.visual,
                       kind | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
                       values.data());
     xcb_create_gc(x, graphics_, window_, 0, nullptr);
@@ -98,13 +98,15 @@ void TrayWindow::setPicture(const StatusItemImage& image, Appearance appearance,
     image_ = image;
     appearance_ = appearance;
     density_ = density;
-    askForWidth();
+    askForSize();
     paint();
 }
 
-void TrayWindow::askForWidth() {
-    const QSize wanted(static_cast<int>(std::ceil(image_.wide.size.width * density_)),
-                       static_cast<int>(std::ceil(image_.wide.size.height * density_)));
+void TrayWindow::askForSize() {
+    const Size wide = image_.wide.size;
+    const double width = hints_.isVertical ? wide.height : wide.width;
+    const QSize wanted(static_cast<int>(std::ceil(width * density_)),
+                       static_cast<int>(std::ceil(wide.height * density_)));
     if (std::exchange(asked_, wanted) == wanted) {
         return;
     }
@@ -236,7 +238,7 @@ void TrayWindow::paint() {
         return;
     }
     QImage pixels = picture();
-    if (!visual_.hasAlpha()) {
+    if (!hints_.hasAlpha()) {
         QImage opaque = background();
         QPainter(&opaque).drawImage(0, 0, pixels);
         pixels = std::move(opaque);
@@ -246,7 +248,7 @@ void TrayWindow::paint() {
     }
     painted_ = pixels;
     xcb_put_image(connection_.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, window_, graphics_,
-                  extent(pixels.width()), extent(pixels.height()), 0, 0, 0, visual_.depth,
+                  extent(pixels.width()), extent(pixels.height()), 0, 0, 0, hints_.depth,
                   static_cast<std::uint32_t>(pixels.sizeInBytes()), pixels.constBits());
     connection_.flush();
 }

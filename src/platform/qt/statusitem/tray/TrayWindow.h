@@ -12,7 +12,7 @@
 
 #include "platform/StatusBar.h"
 #include "platform/qt/statusitem/tray/TrayConnection.h"
-#include "platform/qt/statusitem/tray/TrayVisual.h"
+#include "platform/qt/statusitem/tray/TrayHints.h"
 
 namespace zephrine {
 
@@ -26,7 +26,7 @@ public:
     };
 
     /// Asks `manager`, the tray's window, to take it in. `connection` outlives it.
-    TrayWindow(TrayConnection& connection, xcb_window_t manager, const TrayVisual& visual,
+    TrayWindow(TrayConnection& connection, xcb_window_t manager, const TrayHints& hints,
                Handlers handlers);
     ~TrayWindow();
     Q_DISABLE_COPY_MOVE(TrayWindow)
@@ -44,7 +44,7 @@ public:
 private:
     void tellEmbedder();
     void requestDock(xcb_window_t manager);
-    void askForWidth();
+    void askForSize();
     void paint();
     [[nodiscard]] QImage picture() const;
     /// What is behind the window, read from the screen.
@@ -53,7 +53,7 @@ private:
     void resized(QSize size);
 
     TrayConnection& connection_;
-    TrayVisual visual_;
+    TrayHints hints_;
     Handlers handlers_;
     xcb_window_t window_ = XCB_WINDOW_NONE;
     xcb_gcontext_t graphics_ = XCB_NONE;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // https://specifications.freedesktop.org/systemtray-spec, "Tray manager hints".
-#include "platform/qt/statusitem/tray/TrayVisual.h"
+#include "platform/qt/statusitem/tray/TrayHints.h"
 
 #include <bit>
 
@@ -10,15 +10,15 @@ namespace zephrine {
 
 namespace {
 
-xcb_visualid_t wantedVisual(xcb_connection_t* connection, xcb_window_t manager) {
-    const auto name = internAtoms<1>(connection, {"_NET_SYSTEM_TRAY_VISUAL"})[0];
+/// 0 when the tray has no such hint.
+std::uint32_t hint(xcb_connection_t* connection, xcb_window_t manager, xcb_atom_t name,
+                   xcb_atom_t type) {
     const auto reply = own(xcb_get_property_reply(
-        connection, xcb_get_property(connection, 0, manager, name, XCB_ATOM_VISUALID, 0, 1),
-        nullptr));
+        connection, xcb_get_property(connection, 0, manager, name, type, 0, 1), nullptr));
     if (!reply || reply->format != 32 || reply->value_len != 1) {
-        return XCB_NONE;
+        return 0;
     }
-    return *static_cast<const xcb_visualid_t*>(xcb_get_property_value(reply.get()));
+    return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
 }
 
 /// 0 when the screen has no such visual.
@@ -51,15 +51,21 @@ bool hasPlainPixels(const xcb_setup_t* setup, std::uint8_t depth) {
 
 }  // namespace
 
-std::optional<TrayVisual> visualOfTray(xcb_connection_t* connection, const xcb_screen_t& screen,
-                                       xcb_window_t manager) {
-    TrayVisual visual{wantedVisual(connection, manager), 0};
-    visual.depth = depthOf(screen, visual.id);
-    if (visual.depth == 0) {
-        visual = {screen.root_visual, screen.root_depth};
+std::optional<TrayHints> hintsOfTray(xcb_connection_t* connection, const xcb_screen_t& screen,
+                                     xcb_window_t manager) {
+    const auto [visual, orientation] =
+        internAtoms<2>(connection, {"_NET_SYSTEM_TRAY_VISUAL", "_NET_SYSTEM_TRAY_ORIENTATION"});
+    constexpr std::uint32_t vertical = 1;  // _NET_SYSTEM_TRAY_ORIENTATION_VERT
+    TrayHints hints;
+    hints.isVertical = hint(connection, manager, orientation, XCB_ATOM_CARDINAL) == vertical;
+    hints.visual = hint(connection, manager, visual, XCB_ATOM_VISUALID);
+    hints.depth = depthOf(screen, hints.visual);
+    if (hints.depth == 0) {
+        hints.visual = screen.root_visual;
+        hints.depth = screen.root_depth;
     }
-    return hasPlainPixels(xcb_get_setup(connection), visual.depth) ? std::optional(visual)
-                                                                   : std::nullopt;
+    return hasPlainPixels(xcb_get_setup(connection), hints.depth) ? std::optional(hints)
+                                                                  : std::nullopt;
 }
 
 }  // namespace zephrine
