@@ -15,10 +15,6 @@ constexpr double initialItemLength = 74;
 // How much of a period the system may delay a refresh by, to wake up for several things at once.
 constexpr double toleranceShare = 0.15;
 
-std::optional<double> percent(const std::optional<MemoryReading>& memory) {
-    return memory ? std::optional(memory->percent()) : std::nullopt;
-}
-
 }  // namespace
 
 AppDelegate::AppDelegate(Platform& platform, Application& application,
@@ -80,7 +76,7 @@ void AppDelegate::refresh() {
     latestPressure = sampler.pressure();
     history.append({.time = platform_.hostCounters().systemUptime(),
                     .cpu = latestCPU,
-                    .ram = percent(latestMemory),
+                    .ram = percentOf(latestMemory),
                     .gpu = latestGPU});
     updateStatusItem();
     if (isDashboardVisible()) {

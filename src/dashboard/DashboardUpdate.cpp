@@ -23,7 +23,7 @@ void Dashboard::update(std::optional<double> cpuPercent, const std::optional<Mem
                        std::optional<double> gpuPercent, MemoryPressure level,
                        const History& readings, double interval) {
     cpu->setStringValue(percentText(cpuPercent));
-    ram->setStringValue(percentText(memory ? std::optional(memory->percent()) : std::nullopt));
+    ram->setStringValue(percentText(percentOf(memory)));
     gpu->setStringValue(percentText(gpuPercent));
     gpuDetail->setStringValue(gpuPercent ? "Driver-reported usage" : "Not available on this Mac");
     ramDetail->setStringValue(memoryDetail(memory));

@@ -31,4 +31,8 @@ std::uint64_t MemoryReading::usedBytes(const vm_statistics64& stats, std::uint64
     return std::min(pages * pageSize, total);
 }
 
+std::optional<double> percentOf(const std::optional<MemoryReading>& memory) {
+    return memory ? std::optional(memory->percent()) : std::nullopt;
+}
+
 }  // namespace zephrine

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "platform/HostCounters.h"
 
@@ -29,5 +30,8 @@ struct MemoryReading {
 
     bool operator==(const MemoryReading&) const = default;
 };
+
+/// Absent for an absent reading.
+std::optional<double> percentOf(const std::optional<MemoryReading>& memory);
 
 }  // namespace zephrine

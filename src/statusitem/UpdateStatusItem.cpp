@@ -35,14 +35,13 @@ void AppDelegate::updateStatusItem() {
     }
     lastImageKey = key;
 
-    const StatusContent content{
-        .cpuText = cpuValue,
-        .ramText = ramValue,
-        .cpuPercent = latestCPU,
-        .ramPercent = latestMemory ? std::optional(latestMemory->percent()) : std::nullopt,
-        .fontSize = fontSize(),
-        .dot = color(latestPressure),
-        .isDark = isDark};
+    const StatusContent content{.cpuText = cpuValue,
+                                .ramText = ramValue,
+                                .cpuPercent = latestCPU,
+                                .ramPercent = percentOf(latestMemory),
+                                .fontSize = fontSize(),
+                                .dot = color(latestPressure),
+                                .isDark = isDark};
     const TextMeasure& measure = application_.textMeasure();
     Image wide = statusImage(content, measure);
     statusItem->setLength(wide.size.width + itemPadding);

@@ -125,6 +125,13 @@ TEST(ProcessCapture, LeavesRoomForProcessesThatStartMeanwhile) {
     EXPECT_EQ(table.bufferSize, 128U);
 }
 
+TEST(ProcessCaptureDeathTest, StopsBeforeAListThatNoMachineHas) {
+    FakeProcessTable table;
+    table.reportedCount = (1 << 29) - 128;
+    EXPECT_DEATH(ProcessSnapshot::capture(table), "");
+    EXPECT_EQ(table.bufferSize, 0U);
+}
+
 TEST(ProcessCapture, SkipsPidsBelowOneAndUnreadableProcesses) {
     FakeProcessTable table;
     table.processes[0];

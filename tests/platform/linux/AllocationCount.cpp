@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Replaces the global operators; the array forms end up in these by default.
+// Replaces the global operators: all of them, so that none meets another allocator's memory.
 #include "platform/linux/AllocationCount.h"
 
 #include <cstdlib>
@@ -9,15 +9,21 @@ namespace {
 thread_local std::size_t allocations = 0;
 }
 
-void* operator new(std::size_t size) {
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
     ++allocations;
-    if (void* const memory = std::malloc(size == 0 ? 1 : size)) {
+    return std::malloc(size == 0 ? 1 : size);
+}
+void* operator new(std::size_t size) {
+    if (void* const memory = ::operator new(size, std::nothrow)) {
         return memory;
     }
     throw std::bad_alloc();
 }
 void* operator new[](std::size_t size) {
     return ::operator new(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
+    return ::operator new(size, tag);
 }
 void operator delete(void* memory) noexcept {
     std::free(memory);

@@ -25,8 +25,6 @@ public:
     /// leads to.
     std::optional<std::string_view> read(std::span<char> buffer);
 
-    [[nodiscard]] const std::string& path() const { return path_; }
-
 private:
     bool open();
     void close();

@@ -42,11 +42,13 @@ std::optional<std::uint64_t> parseUnsigned(std::string_view word) {
     return value;
 }
 
-std::optional<std::uint64_t> bytesFromKilobytes(std::optional<std::uint64_t> value) {
-    if (!value || *value > std::numeric_limits<std::uint64_t>::max() / 1024) {
+std::optional<std::uint64_t> parseKilobytes(std::string_view words) {
+    const auto number = parseUnsigned(takeWord(words));
+    if (!number || takeWord(words) != "kB" ||
+        *number > std::numeric_limits<std::uint64_t>::max() / 1024) {
         return std::nullopt;
     }
-    return *value * 1024;
+    return *number * 1024;
 }
 
 }  // namespace zephrine

@@ -19,7 +19,8 @@ std::string_view takeWord(std::string_view& line);
 /// The number that `word` is, digits only, below 2^64; absent otherwise.
 std::optional<std::uint64_t> parseUnsigned(std::string_view word);
 
-/// `value` × 1024; absent when that reaches 2^64. The kernel's "kB" are 1024 bytes.
-std::optional<std::uint64_t> bytesFromKilobytes(std::optional<std::uint64_t> value);
+/// The bytes of "number kB", blanks before either; absent when `words` is something else, or when
+/// they reach 2^64. The kernel's "kB" are 1024 bytes.
+std::optional<std::uint64_t> parseKilobytes(std::string_view words);
 
 }  // namespace zephrine

@@ -32,12 +32,6 @@ constexpr std::array<Field, 13> kFields{{
     {"GPUReclaim:", &Meminfo::gpuReclaim},
 }};
 
-/// The bytes of "  number kB".
-std::optional<std::uint64_t> parseSize(std::string_view rest) {
-    const auto number = parseUnsigned(takeWord(rest));
-    return takeWord(rest) == "kB" ? bytesFromKilobytes(number) : std::nullopt;
-}
-
 }  // namespace
 
 Meminfo parseMeminfo(std::string_view text) {
@@ -46,7 +40,7 @@ Meminfo parseMeminfo(std::string_view text) {
         const std::string_view key = takeWord(*line);
         const auto* const field = std::ranges::find(kFields, key, &Field::key);
         if (field != kFields.end() && !(memory.*field->value)) {
-            memory.*field->value = parseSize(*line);
+            memory.*field->value = parseKilobytes(*line);
         }
     }
     return memory;

@@ -22,6 +22,7 @@ public:
     /// The answer to the previous call, or to the one before it when that is still to come; absent
     /// when both are, since an older figure no longer holds.
     std::optional<double> utilization() override;
+    [[nodiscard]] bool mayBlock() const override { return false; }
 
 private:
     struct Exchange;

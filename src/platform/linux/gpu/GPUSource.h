@@ -13,6 +13,9 @@ public:
     /// Percent; absent when it cannot be read now. A source that counts busy time has its first
     /// figure at the second call. Called by one thread at a time, not always the main one.
     virtual std::optional<double> utilization() = 0;
+
+    /// Whether `utilization` may wait for the driver.
+    [[nodiscard]] virtual bool mayBlock() const { return true; }
 };
 
 }  // namespace zephrine

@@ -69,7 +69,7 @@ std::optional<double> LinuxGPURegistry::read(Card& card) {
     }
     const double begin = clock_();
     const auto utilization = card.source->utilization();
-    if (clock_() - begin > kSlow) {
+    if (card.source->mayBlock() && clock_() - begin > kSlow) {
         card.source = threads_.adopt(std::move(card.source));
     }
     return utilization;

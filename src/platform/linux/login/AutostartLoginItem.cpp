@@ -11,11 +11,11 @@
 #include <cerrno>
 #include <climits>
 #include <cstddef>
-#include <cstdlib>
 #include <system_error>
 #include <utility>
 
 #include "platform/linux/base/ConfigHome.h"
+#include "platform/linux/base/Environment.h"
 #include "platform/linux/base/FileDescriptor.h"
 #include "platform/linux/base/FileReplacement.h"
 #include "platform/linux/login/AutostartEntry.h"
@@ -24,11 +24,6 @@
 namespace zephrine {
 
 namespace {
-
-std::string environmentVariable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value == nullptr ? std::string() : value;
-}
 
 /// Where this program's file is now (proc(5), /proc/pid/exe); empty when it is gone.
 std::string ownProgram() {

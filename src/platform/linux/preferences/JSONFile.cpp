@@ -21,25 +21,6 @@
 
 namespace zephrine {
 
-namespace {
-
-constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
-
-std::int64_t nanoseconds(const timespec& time) {
-    return (std::int64_t{time.tv_sec} * kNanosecondsPerSecond) + time.tv_nsec;
-}
-
-/// File times advance with the kernel's timer tick (up to 10 ms): a file that changed just now may
-/// change again without a trace in its stamp.
-bool mayChangeUnseen(std::int64_t changed) {
-    constexpr std::int64_t kMargin = 50'000'000;
-    timespec now{};
-    ::clock_gettime(CLOCK_REALTIME, &now);
-    return std::abs(nanoseconds(now) - changed) < kMargin;
-}
-
-}  // namespace
-
 JSONFile::JSONFile(std::string path)
     : path_(std::move(path)),
       document_(std::make_unique<PreferenceDocument>(PreferenceDocument::object())) {}
@@ -60,12 +41,6 @@ std::optional<bool> JSONFile::boolean(std::string_view key) {
                                                    : std::nullopt;
 }
 
-std::optional<std::string> JSONFile::string(std::string_view key) {
-    const PreferenceDocument* const value = find(key);
-    return value != nullptr && value->is_string() ? std::optional(value->get<std::string>())
-                                                  : std::nullopt;
-}
-
 bool JSONFile::setNumber(double value, std::string_view key) {
     return set(value, key);
 }
@@ -74,9 +49,6 @@ bool JSONFile::setInteger(std::int64_t value, std::string_view key) {
 }
 bool JSONFile::setBoolean(bool value, std::string_view key) {
     return set(value, key);
-}
-bool JSONFile::setString(std::string_view value, std::string_view key) {
-    return set(std::string(value), key);
 }
 
 const nlohmann::ordered_json* JSONFile::find(std::string_view key) {
@@ -124,13 +96,28 @@ void JSONFile::refresh() {
     loaded_ = mayChangeUnseen(found.changed) ? std::nullopt : std::optional(found);
 }
 
+/// File times advance with the kernel's timer tick (up to 10 ms): a file that changed just now may
+/// change again without a trace in its stamp.
+bool JSONFile::mayChangeUnseen(FileTime changed) {
+    constexpr double kMargin = 0.05;  // seconds
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    // Not in whole nanoseconds: files may be dated to years that overflow those.
+    const double seconds = static_cast<double>(now.tv_sec) - static_cast<double>(changed.seconds);
+    const auto nanoseconds = static_cast<double>(now.tv_nsec - changed.nanoseconds);
+    return std::abs(seconds + nanoseconds * 1e-9) < kMargin;
+}
+
 JSONFile::Stamp JSONFile::stamp() const {
     struct stat status {};
     if (::stat(path_.c_str(), &status) != 0) {
         return {};
     }
-    return {status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim),
-            nanoseconds(status.st_ctim)};
+    return {status.st_dev,
+            status.st_ino,
+            status.st_size,
+            {status.st_mtim.tv_sec, status.st_mtim.tv_nsec},
+            {status.st_ctim.tv_sec, status.st_ctim.tv_nsec}};
 }
 
 JSONFile::State JSONFile::load() {

@@ -26,22 +26,25 @@ public:
     /// Absent when there is no such key or when it holds another kind of value.
     std::optional<double> number(std::string_view key);
     std::optional<bool> boolean(std::string_view key);
-    std::optional<std::string> string(std::string_view key);
 
     /// True when the value has reached the disk; later reads see it either way.
     bool setNumber(double value, std::string_view key);
     bool setInteger(std::int64_t value, std::string_view key);
     bool setBoolean(bool value, std::string_view key);
-    bool setString(std::string_view value, std::string_view key);
 
 private:
+    struct FileTime {
+        std::int64_t seconds = 0;
+        std::int64_t nanoseconds = 0;
+        bool operator==(const FileTime&) const = default;
+    };
     /// What tells one state of the file from another; all zero when there is no file.
     struct Stamp {
         std::uint64_t device = 0;
         std::uint64_t inode = 0;
         std::int64_t size = 0;
-        std::int64_t modified = 0;  ///< nanoseconds
-        std::int64_t changed = 0;   ///< nanoseconds
+        FileTime modified;
+        FileTime changed;
         bool operator==(const Stamp&) const = default;
     };
     enum class State {
@@ -51,6 +54,7 @@ private:
     };
 
     [[nodiscard]] Stamp stamp() const;
+    static bool mayChangeUnseen(FileTime changed);
     void refresh();
     State load();
     const nlohmann::ordered_json* find(std::string_view key);

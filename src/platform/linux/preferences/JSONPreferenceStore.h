@@ -23,9 +23,6 @@ public:
     void setInteger(std::int64_t value, std::string_view key) override;
     void setBool(bool value, std::string_view key) override;
 
-    /// For what the desktop's side keeps under keys of its own, such as the status item's place.
-    JSONFile& file() { return file_; }
-
 private:
     mutable JSONFile file_;  // reading looks for changes made outside
 };

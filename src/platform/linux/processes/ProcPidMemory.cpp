@@ -8,16 +8,6 @@
 
 namespace zephrine {
 
-namespace {
-
-/// The bytes of "Name:  123 kB", with everything up to the colon already taken off.
-std::optional<std::uint64_t> kilobyteField(std::string_view value) {
-    const auto number = parseUnsigned(takeWord(value));
-    return takeWord(value) == "kB" ? bytesFromKilobytes(number) : std::nullopt;
-}
-
-}  // namespace
-
 std::optional<std::uint64_t> anonymousPages(std::string_view statm) {
     takeWord(statm);
     const auto resident = parseUnsigned(takeWord(statm));
@@ -36,9 +26,9 @@ std::optional<std::uint64_t> anonymousAndSwappedBytes(std::string_view status) {
     std::optional<std::uint64_t> swapped;
     while (const auto line = takeLine(status)) {
         if (line->starts_with(kAnonymous)) {
-            anonymous = kilobyteField(line->substr(kAnonymous.size()));
+            anonymous = parseKilobytes(line->substr(kAnonymous.size()));
         } else if (line->starts_with(kSwapped)) {
-            swapped = kilobyteField(line->substr(kSwapped.size()));
+            swapped = parseKilobytes(line->substr(kSwapped.size()));
         }
     }
     if (!anonymous) {

@@ -18,16 +18,17 @@ std::optional<ProcPidStat> parseProcPidStat(std::string_view text) {
     }
     std::string_view fields = text.substr(close + 1);
     const std::string_view state = takeWord(fields);
-    constexpr int kBetweenStateAndStart = 22 - 3 - 1;
-    for (int field = 0; field < kBetweenStateAndStart; ++field) {
+    const auto parent = parseUnsigned(takeWord(fields));
+    constexpr int kBetweenParentAndStart = 22 - 4 - 1;
+    for (int field = 0; field < kBetweenParentAndStart; ++field) {
         takeWord(fields);
     }
     const auto startTime = parseUnsigned(takeWord(fields));
     // A number that ends where the text ends may have lost its last digits.
-    if (state.size() != 1 || !startTime || fields.empty()) {
+    if (state.size() != 1 || !parent || !startTime || fields.empty()) {
         return std::nullopt;
     }
-    return ProcPidStat{text.substr(open + 1, close - open - 1), state.front(), *startTime};
+    return ProcPidStat{text.substr(open + 1, close - open - 1), *parent, *startTime};
 }
 
 }  // namespace zephrine

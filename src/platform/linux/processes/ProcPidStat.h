@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One process's line in /proc/PID/stat (proc_pid_stat(5)): its name and when it started.
+// One process's line in /proc/PID/stat (proc_pid_stat(5)): its name, its parent, when it started.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,8 @@
 namespace zephrine {
 
 struct ProcPidStat {
-    std::string_view comm;  ///< field 2 without its parentheses; any bytes; points into the text
-    char state = '?';       ///< field 3; 'Z' is a zombie
+    std::string_view comm;     ///< field 2 without its parentheses; any bytes; points into the text
+    std::uint64_t parent = 0;  ///< field 4; 0 for a process without one
     std::uint64_t startTime = 0;  ///< field 22, clock ticks since boot
 };
 

@@ -40,11 +40,13 @@ TEST(TextScan, RefusesWhatIsNotANumber) {
     }
 }
 
-TEST(TextScan, RefusesKilobytesThatDoNotFit) {
-    EXPECT_EQ(bytesFromKilobytes(3), 3072U);
-    EXPECT_EQ(bytesFromKilobytes(kMax / 1024), kMax / 1024 * 1024);
-    EXPECT_EQ(bytesFromKilobytes(kMax / 1024 + 1), std::nullopt);
-    EXPECT_EQ(bytesFromKilobytes(std::nullopt), std::nullopt);
+TEST(TextScan, ReadsKilobytesThatFit) {
+    EXPECT_EQ(parseKilobytes("  3 kB"), 3072U);
+    EXPECT_EQ(parseKilobytes(std::to_string(kMax / 1024) + " kB"), kMax / 1024 * 1024);
+    for (const auto& words : {std::to_string(kMax / 1024 + 1) + " kB", std::string("3"),
+                              std::string("3 MB"), std::string("kB"), std::string()}) {
+        EXPECT_EQ(parseKilobytes(words), std::nullopt) << words;
+    }
 }
 
 TEST(SaturatingMath, StopsAtTheEndsOfTheRange) {

@@ -4,13 +4,19 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <atomic>
+#include <filesystem>
+#include <iterator>
+
 #include "platform/linux/AllocationCount.h"
 #include "platform/linux/OpenWatch.h"
+#include "platform/linux/gpu/Eventually.h"
 #include "platform/linux/gpu/FakeCards.h"
 
 namespace zephrine {
 namespace {
 
+using testing::eventually;
 using testing::FakeCards;
 using testing::OpenWatch;
 
@@ -122,6 +128,28 @@ TEST_F(LinuxGPURegistryTest, LetsAnIdleCardFallAsleep) {
     }
     EXPECT_EQ(watch.touched(), std::set<std::string>{});
     EXPECT_EQ(utilization(service), 0.0);
+}
+
+std::size_t threadCount() {
+    return static_cast<std::size_t>(
+        std::distance(std::filesystem::directory_iterator("/proc/self/task"),
+                      std::filesystem::directory_iterator()));
+}
+
+TEST_F(LinuxGPURegistryTest, ReadsACardThatIsSlowTimeAndAgainInOneThread) {
+    addCard("30\n");
+    std::atomic<int> seconds = 0;
+    LinuxGPURegistry slow{{.sys = cards.tree.root()},
+                          [&seconds] { return static_cast<double>(++seconds); }};
+    const std::size_t before = threadCount();
+    service = slow.IOServiceGetMatchingServices("IOAccelerator").value().at(0);
+    for (int reading = 0; reading < 12; ++reading) {
+        slow.IORegistryEntryCreateCFProperty(service, "PerformanceStatistics");
+    }
+    EXPECT_EQ(threadCount(), before + 1);
+    EXPECT_TRUE(eventually([&] {
+        return slow.IORegistryEntryCreateCFProperty(service, "PerformanceStatistics") != nullptr;
+    }));
 }
 
 TEST_F(LinuxGPURegistryTest, KeepsTwoCardsApart) {

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/preferences/JSONPreferenceStore.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -43,7 +45,6 @@ protected:
 TEST_F(JSONPreferenceStoreTest, ReadsNothingFromAFileThatIsNotThereAndDoesNotMakeIt) {
     EXPECT_EQ(store_.doubleForKey("fontSize"), 0);
     EXPECT_FALSE(store_.boolForKey("ramInGB"));
-    EXPECT_FALSE(store_.file().number("fontSize"));
     EXPECT_FALSE(exists("zephrine"));
 }
 
@@ -208,22 +209,22 @@ TEST_F(JSONPreferenceStoreTest, LivesInMemoryWithoutAHome) {
     EXPECT_EQ(store.doubleForKey("fontSize"), 9);
 }
 
-TEST_F(JSONPreferenceStoreTest, KeepsTextsAndNumbersForTheDesktopsSide) {
-    EXPECT_TRUE(store_.file().setString("eDP-1", "strip.screen"));
-    EXPECT_TRUE(store_.file().setNumber(0, "strip.x"));
-    EXPECT_EQ(store_.file().string("strip.screen"), "eDP-1");
-    EXPECT_EQ(store_.file().number("strip.x"), 0);
-    EXPECT_FALSE(store_.file().number("strip.screen"));
-    EXPECT_FALSE(store_.file().string("strip.x"));
-    EXPECT_FALSE(store_.file().boolean("strip.x"));
+TEST_F(JSONPreferenceStoreTest, ReadsAFileThatIsDatedToAnotherAge) {
+    store_.setInteger(9, "fontSize");
+    for (const std::int64_t seconds :
+         {std::int64_t{13'569'465'600}, std::int64_t{-2'000'000'000}}) {
+        const std::array<timespec, 2> times{timespec{seconds, 0}, timespec{seconds, 0}};
+        ASSERT_EQ(::utimensat(AT_FDCWD, tree_.path(kFile).c_str(), times.data(), 0), 0);
+        EXPECT_EQ(JSONPreferenceStore(tree_.path(kFile)).doubleForKey("fontSize"), 9);
+        EXPECT_EQ(store_.doubleForKey("fontSize"), 9);
+    }
 }
 
 TEST_F(JSONPreferenceStoreTest, WritesValuesThatJSONDoesNotHaveAsNothing) {
     store_.setDouble(std::nan(""), "a");
-    store_.file().setString("b\xff", "b\xff");
+    store_.setInteger(1, "b\xff");
     EXPECT_EQ(store_.doubleForKey("a"), 0);
-    EXPECT_EQ(JSONPreferenceStore(tree_.path(kFile)).file().string("b\xEF\xBF\xBD"),
-              "b\xEF\xBF\xBD");
+    EXPECT_EQ(JSONPreferenceStore(tree_.path(kFile)).doubleForKey("b\xEF\xBF\xBD"), 1);
 }
 
 }  // namespace

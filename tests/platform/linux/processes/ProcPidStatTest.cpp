@@ -40,11 +40,15 @@ INSTANTIATE_TEST_SUITE_P(HostileNames, ProcPidStatOf,
                                            Named{"cut-off.stat", "a-program-with-", 191928},
                                            Named{"kthread.stat", "kthreadd", 10}));
 
-TEST(ProcPidStat, TellsAZombie) {
-    const std::string text = captured("process/zombie.stat");
-    const auto stat = parseProcPidStat(text);
-    ASSERT_TRUE(stat);
-    EXPECT_EQ(stat->state, 'Z');
+TEST(ProcPidStat, TellsTheParent) {
+    for (const auto& [file, parent] :
+         {std::pair("zombie.stat", 354U), std::pair("fake-fields.stat", 354U),
+          std::pair("kthread.stat", 0U)}) {
+        const std::string text = captured(std::string("process/") + file);
+        const auto stat = parseProcPidStat(text);
+        ASSERT_TRUE(stat) << file;
+        EXPECT_EQ(stat->parent, parent) << file;
+    }
 }
 
 TEST(ProcPidStat, IsAbsentWhereverTheLineIsCutOffBeforeTheStartTimeEnds) {
