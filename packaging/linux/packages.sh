@@ -31,7 +31,7 @@ panel_packages=(
     lxqt-panel mate-panel libglib2.0-bin trayer tint2
     stress-ng tesseract-ocr tesseract-ocr-eng
     x11-utils at-spi2-core gir1.2-atspi-2.0 python3-gi
-    dex desktop-file-utils python3-dbusmock
+    dex desktop-file-utils python3-dbusmock xsettingsd
 )
 
 # Prints what the panels of these hosts need besides, for those that ./test leaves out.
@@ -41,6 +41,11 @@ heavy_panel_packages() {
         case $host in
             gnome) echo gnome-shell gnome-shell-extension-appindicator ;;
             i3bar) echo i3-wm ;;
+            cinnamon) echo cinnamon xapp-sn-watcher ;;
+            plasma) echo plasma-desktop plasma-workspace ;;
+            budgie) echo budgie-core ;;
+            waybar) echo waybar sway xwayland ;;
+            swaybar) echo sway xwayland ;;
         esac
     done
 }
