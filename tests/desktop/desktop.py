@@ -118,10 +118,15 @@ class Desktop:
         """Starts a program on this desktop; what it prints goes to a log of its name."""
         return self._spawn(*command, env=self.environment | (environment or {}))
 
-    def run(self, *command):
+    def run(self, *command, environment=None):
         """What the program prints, once it has ended."""
-        return subprocess.run(command, env=self.environment, check=True, timeout=20,
-                              capture_output=True, text=True).stdout
+        return subprocess.run(command, env=self.environment | (environment or {}), check=True,
+                              timeout=20, capture_output=True, text=True).stdout
+
+    def use_input(self, *action):
+        """Moves the pointer or presses what xdotool's `action` says, on the server that has the
+        pointer, though a compositor may have brought another one for programs."""
+        self.run("xdotool", *action, environment={"DISPLAY": self.display})
 
     def _spawn(self, *command, env=None, pass_fds=()):
         log = self.logs / (pathlib.Path(command[0]).name + ".log")

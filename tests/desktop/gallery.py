@@ -10,11 +10,16 @@ import heavy_hosts
 import hosts
 from desktop import Desktop, wait_until
 from load import cpu_load
-from program import start
-from reading import figures
+from program import changed_area, start
+from reading import figures, with_margin
 
 HOSTS = hosts.BY_NAME | heavy_hosts.BY_NAME
 WIDTH, HEIGHT = 240, 32
+
+
+def shows_figures(desktop, empty, area):
+    box = changed_area(desktop, empty, area)
+    return box and len(figures(desktop.picture(with_margin(box)))) >= 2
 
 
 def take(folder, name):
@@ -22,12 +27,13 @@ def take(folder, name):
     with Desktop(window_manager=host.window_manager) as desktop:
         host.start(desktop)
         time.sleep(1)
+        empty = desktop.settled_picture(host.area)
         start(desktop)
-        wait_until(lambda: len(figures(desktop.picture(host.area))) >= 2, 20, "the item")
+        wait_until(lambda: shows_figures(desktop, empty, host.area), 20, "the item")
         with cpu_load(30):
             time.sleep(4)
             _, top, right, bottom = host.area
-            top = top if top < 100 else bottom - HEIGHT
+            top = max(0, (top + bottom - HEIGHT) // 2)
             right = min(1000, right + 60)
             box = (right - WIDTH, top, right, top + HEIGHT)
             desktop.picture(box).resize((2 * WIDTH, 2 * HEIGHT)).save(folder / f"{name}.png")

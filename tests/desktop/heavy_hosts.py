@@ -1,11 +1,20 @@
 # SPDX-License-Identifier: MIT
 """Panels that come with half a desktop, or are one: tried only when they are asked for."""
-import os
 import subprocess
 
+import sway_hosts
+from bus import Bus
 from desktop import wait_until
 from host import Host
 from hosts import wait_for_watcher
+from program import windows
+
+CINNAMON_WATCHER = "/usr/libexec/xapps/sn-watcher/xapp-sn-watcher"
+CINNAMON_APPLETS = """['panel1:left:0:menu@cinnamon.org', 'panel1:right:0:systray@cinnamon.org',
+ 'panel1:right:1:xapp-status@cinnamon.org']"""
+
+# To the left of what the panel shows besides.
+PLASMA_TRAY = (680, 718, 786, 758)
 
 # The bar is as high as its font: at the usual size, an item has no room for figures.
 I3_SETTINGS = """# i3 config file (v4)
@@ -18,16 +27,43 @@ bar {
 """
 
 
+class Together:
+    """The processes of a panel that has several, as one."""
+
+    def __init__(self, *processes):
+        self._processes = processes
+
+    def kill(self):
+        for process in self._processes:
+            process.kill()
+
+    def wait(self):
+        for process in self._processes:
+            process.wait()
+
+
+def ensure_system_bus(desktop):
+    """Desktops ask it for many services, and wait long where there is none; this one has none to
+    offer, and says so at once."""
+    place = desktop.folder / "runtime/system"
+    desktop.environment["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={place}"
+    if not place.exists():
+        desktop.start("dbus-daemon", "--session", "--nofork", "--nopidfile",
+                      f"--address=unix:path={place}")
+        wait_until(place.exists, 10, "a system bus")
+
+
+def wait_for_name(desktop, name):
+    with Bus(desktop.bus_address) as bus:
+        wait_until(lambda: bus.owner(name), 30, name)
+
+
 def gnome(desktop):
     """GNOME with the extension that shows items, which Debian enables for nobody."""
     settings = desktop.environment
     settings["GSETTINGS_BACKEND"] = "keyfile"
     settings["XDG_CURRENT_DESKTOP"] = "GNOME"
-    settings["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={desktop.folder}/runtime/system"
-    if not os.path.exists(desktop.folder / "runtime/system"):
-        desktop.start("dbus-daemon", "--session", "--nofork", "--nopidfile",
-                      "--address=" + settings["DBUS_SYSTEM_BUS_ADDRESS"])
-        wait_until(lambda: os.path.exists(desktop.folder / "runtime/system"), 10, "a system bus")
+    ensure_system_bus(desktop)
     desktop.run("gsettings", "set", "org.gnome.shell", "enabled-extensions",
                 "['ubuntu-appindicators@ubuntu.com']")
     desktop.run("gsettings", "set", "org.gnome.shell", "welcome-dialog-last-shown-version", "'99'")
@@ -36,6 +72,52 @@ def gnome(desktop):
     desktop.settled_picture((700, 0, 940, 30))
     desktop.run("xdotool", "key", "Escape")  # it starts with an overview of all windows
     return shell
+
+
+def cinnamon(desktop):
+    """Cinnamon's panel at the bottom, with its trays alone, and the watcher beside it that its
+    session starts."""
+    settings = desktop.environment
+    settings["GSETTINGS_BACKEND"] = "keyfile"
+    settings["XDG_CURRENT_DESKTOP"] = "X-Cinnamon"
+    ensure_system_bus(desktop)
+    desktop.run("gsettings", "set", "org.cinnamon", "enabled-applets", CINNAMON_APPLETS)
+    shell = desktop.start("cinnamon")
+    # As in a session, where the watcher starts last: a picture that comes to Cinnamon while it
+    # loads its panel, Cinnamon may never show.
+    wait_for_name(desktop, "org.x.StatusIconMonitor.cinnamon_0")
+    watcher = desktop.start(CINNAMON_WATCHER)
+    wait_for_watcher(desktop)
+    return Together(shell, watcher)
+
+
+def plasma(desktop):
+    """Plasma's usual panel at the bottom. The process that takes the items is not the one that
+    shows them."""
+    settings = desktop.environment
+    settings["XDG_CURRENT_DESKTOP"] = "KDE"
+    settings["KDE_FULL_SESSION"] = "true"
+    settings["KDE_SESSION_VERSION"] = "5"
+    settings["QT_QUICK_BACKEND"] = "software"
+    ensure_system_bus(desktop)
+    services = desktop.start("kded5")
+    shell = desktop.start("plasmashell", "--no-respawn")
+    wait_for_watcher(desktop)
+    wait_until(lambda: any(width > 900 and height < 100
+                           for _, _, _, width, height in windows(desktop, shell)), 30, "the panel")
+    desktop.settled_picture(PLASMA_TRAY)
+    return Together(shell, services)
+
+
+def budgie(desktop):
+    """The panel of Budgie, which has a tray of X11."""
+    settings = desktop.environment
+    settings["GSETTINGS_BACKEND"] = "keyfile"
+    settings["XDG_CURRENT_DESKTOP"] = "Budgie:GNOME"
+    ensure_system_bus(desktop)
+    panel = desktop.start("budgie-panel")
+    wait_for_name(desktop, "org.budgie_desktop.Panel")
+    return panel
 
 
 def i3bar(desktop):
@@ -57,5 +139,8 @@ def i3bar(desktop):
 
 BY_NAME = {
     "gnome": Host(gnome, (700, 0, 940, 30), clicks=2, patience=10, window_manager=False),
+    "cinnamon": Host(cinnamon, (500, 722, 1000, 758), patience=10, window_manager=False),
+    "plasma": Host(plasma, PLASMA_TRAY, patience=15),
+    "budgie": Host(budgie, (700, 726, 890, 758)),
     "i3bar": Host(i3bar, (500, 0, 1000, 24), window_manager=False),
-}
+} | sway_hosts.BY_NAME

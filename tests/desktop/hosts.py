@@ -44,10 +44,11 @@ XFCE_EDGES = {"top": (6, 0), "bottom": (8, 0), "left": (6, 1), "right": (2, 1)}
 LXQT_PANEL = """panels=panel1
 
 [panel1]
-position=Bottom
+position=@edge@
+desktop=@monitor@
 width=100
 width-percent=true
-background-color=#e8e8e8
+background-color=@colour@
 opacity=100
 plugins=spacer, statusnotifier
 
@@ -64,9 +65,16 @@ panel_position = top center horizontal
 panel_size = 100% 30
 systray_icon_size = 24
 rounded = 0
-background_color = #222222 100
+background_color = @colour@ 100
 panel_background_id = 1
 """
+
+
+def filled(text, **values):
+    """The text with the values where it has their names, as @name@."""
+    for name, value in values.items():
+        text = text.replace(f"@{name}@", str(value))
+    return text
 
 
 def xfce(desktop, edge="top", centred=False, x=0):
@@ -76,11 +84,9 @@ def xfce(desktop, edge="top", centred=False, x=0):
     if not folder.exists():
         folder.mkdir(parents=True)
         place, mode = XFCE_EDGES[edge]
-        text = XFCE_PANEL
-        for name, value in {"place": place, "mode": mode, "x": x,
-                            "centred": str(centred).lower()}.items():
-            text = text.replace(f"@{name}@", str(value))
-        (folder / "xfce4-panel.xml").write_text(text, encoding="utf-8")
+        (folder / "xfce4-panel.xml").write_text(
+            filled(XFCE_PANEL, place=place, mode=mode, x=x, centred=str(centred).lower()),
+            encoding="utf-8")
     panel = desktop.start("xfce4-panel", "--disable-wm-check")
     wait_for_watcher(desktop)
     return panel
@@ -91,11 +97,12 @@ def set_xfce_panel_dark(desktop, dark):
                 "--set", "true" if dark else "false")
 
 
-def lxqt(desktop):
-    """The panel of LXQt at the bottom of the screen."""
+def lxqt(desktop, edge="bottom", colour="#e8e8e8", monitor=0):
+    """The panel of LXQt along a whole edge of the monitor of that number."""
     folder = desktop.config / "lxqt"
     folder.mkdir(exist_ok=True)
-    (folder / "panel.conf").write_text(LXQT_PANEL, encoding="utf-8")
+    (folder / "panel.conf").write_text(
+        filled(LXQT_PANEL, edge=edge.capitalize(), colour=colour, monitor=monitor), encoding="utf-8")
     panel = desktop.start("lxqt-panel", environment={"QT_QPA_PLATFORM": "xcb"})
     wait_for_watcher(desktop)
     return panel
@@ -115,16 +122,16 @@ def wait_for_watcher(desktop):
         wait_until(lambda: bus.owner("org.kde.StatusNotifierWatcher"), 20, "a status item host")
 
 
-def trayer(desktop):
+def trayer(desktop, *options):
     """A tray of X11 and nothing else, which leaves windows as wide as they wish to be."""
     return desktop.start("trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
-                         "--height", "26")
+                         "--height", "26", *options)
 
 
-def tint2(desktop):
+def tint2(desktop, colour="#222222"):
     """A panel with a tray of X11 that makes every window a square."""
     settings = desktop.config / "tint2rc"
-    settings.write_text(TINT2_PANEL, encoding="utf-8")
+    settings.write_text(filled(TINT2_PANEL, colour=colour), encoding="utf-8")
     return desktop.start("tint2", "-c", str(settings))
 
 
@@ -137,7 +144,7 @@ TOP = (0, 0, 1000, 32)
 BY_NAME = {
     "xfce": Host(xfce, TOP),
     "lxqt": Host(lxqt, (0, 728, 1000, 760)),
-    "mate": Host(mate, (500, 0, 870, 24)),
+    "mate": Host(mate, (500, 0, 870, 27)),
     "trayer": Host(trayer, TOP),
     "tint2": Host(tint2, TOP),
     "none": Host(none, TOP),

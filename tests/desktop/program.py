@@ -53,17 +53,26 @@ def strip(desktop, process):
 
 
 def click(desktop, place, button=1):
-    desktop.run("xdotool", "mousemove", *map(str, place))
-    desktop.run("xdotool", "click", str(button))
+    desktop.use_input("mousemove", *map(str, place))
+    desktop.use_input("click", str(button))
 
 
 def press_keys(desktop, *keys):
-    desktop.run("xdotool", "key", *keys)
+    desktop.use_input("key", *keys)
 
 
 def changed_box(before, after):
     """The box of the pixels that differ, or None."""
     return ImageChops.difference(before, after).getbbox()
+
+
+def changed_area(desktop, before, area):
+    """The box on the screen that differs from `before`, a picture of `area`, or None."""
+    box = changed_box(before, desktop.picture(area))
+    if not box:
+        return None
+    left, top = area[:2]
+    return box[0] + left, box[1] + top, box[2] + left, box[3] + top
 
 
 def wait_for_item(bus, process, timeout=10):

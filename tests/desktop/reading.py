@@ -7,14 +7,16 @@ import tempfile
 
 from PIL import Image, ImageOps, ImageStat
 
-MAGNIFICATION = 6
+MAGNIFICATION = 6  # of text of nine points on an ordinary screen
 MARGIN = 24
 
 
-def figures(picture):
-    """The numbers in a picture of an item, as text, from top to bottom; the units are left out."""
+def figures(picture, scale=1):
+    """The numbers in a picture of an item, as text, from top to bottom; the units are left out.
+    `scale` is that of the screen."""
     grey = picture.convert("L")
-    large = grey.resize((grey.width * MAGNIFICATION, grey.height * MAGNIFICATION), Image.LANCZOS)
+    times = MAGNIFICATION / scale
+    large = grey.resize((round(grey.width * times), round(grey.height * times)), Image.LANCZOS)
     background = ImageStat.Stat(large).median[0]
     large = ImageOps.expand(large, MARGIN, fill=background)
     if background < 128:
@@ -27,3 +29,9 @@ def figures(picture):
     # The dot of the memory pressure is taken for all sorts of characters, at the end of a line.
     return named or [number for line in text.splitlines()
             if (number := next(iter(re.findall(r"\d+(?:\.\d)?", line)), None))]
+
+
+def with_margin(box, margin=2):
+    """A little more than the box: characters are not found at the very edge of a picture."""
+    left, top, right, bottom = box
+    return max(0, left - margin), max(0, top - margin), right + margin, bottom + margin

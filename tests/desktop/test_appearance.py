@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """Light and dark: the item and the windows follow the desktop's choice while they are open."""
+import signal
 import unittest
 
 from PIL import ImageStat
@@ -24,6 +25,16 @@ def has_legible_text(desktop, window):
     _, left, top, width, height = window
     low, high = desktop.picture((left, top, left + width, top + height)).convert("L").getextrema()
     return low < 60 and high > 200
+
+
+def name_theme(desktop, name):
+    (desktop.config / "xsettingsd.conf").write_text(f'Net/ThemeName "{name}"\n', encoding="utf-8")
+
+
+def settings_manager(desktop, theme):
+    """What tells applications of their theme, in most desktops on X11."""
+    name_theme(desktop, theme)
+    return desktop.start("xsettingsd", "--config", str(desktop.config / "xsettingsd.conf"))
 
 
 class AppearanceTest(DesktopTestCase):
@@ -66,6 +77,31 @@ class AppearanceTest(DesktopTestCase):
             self.assertEqual(start(desktop, "--show-settings").wait(timeout=10), 0)
             later = {"the settings": lambda: settings.window(desktop, program)}
             self.assert_all_become(desktop, item | later, dark=True)
+
+    def test_without_a_portal_it_looks_as_other_applications_do(self):
+        with self.desktop() as desktop:
+            program = start(desktop, "--show-settings")
+            shown = {"the item": lambda: strip(desktop, program),
+                     "the settings": lambda: settings.window(desktop, program)}
+            self.assert_all_become(desktop, shown, dark=False)
+            manager = settings_manager(desktop, "Adwaita-dark")
+            self.assert_all_become(desktop, shown, dark=True)
+            name_theme(desktop, "Adwaita")
+            manager.send_signal(signal.SIGHUP)
+            self.assert_all_become(desktop, shown, dark=False)
+            manager.kill()
+            manager.wait()
+            settings_manager(desktop, "Greybird-dark")
+            self.assert_all_become(desktop, shown, dark=True)
+
+    def test_a_portal_without_a_preference_leaves_it_to_the_theme(self):
+        with self.desktop() as desktop, mocks.Portal(desktop, NOTHING) as portal:
+            settings_manager(desktop, "Adwaita-dark")
+            program = start(desktop)
+            item = {"the item": lambda: strip(desktop, program)}
+            self.assert_all_become(desktop, item, dark=True)
+            portal.prefer(LIGHT)
+            self.assert_all_become(desktop, item, dark=False)
 
     def test_without_a_portal_it_is_light(self):
         with self.desktop() as desktop:

@@ -2,31 +2,13 @@
 # SPDX-License-Identifier: MIT
 """The strip that stands in for the status item where no panel shows items."""
 import signal
+import time
 import unittest
 
 import hosts
-from bus import Bus
 from desktop import wait_until
-from program import DesktopTestCase, dashboard, start, strip, wait_for_item
-
-
-def wait_for_strip(desktop, process):
-    return wait_until(lambda: strip(desktop, process), 10, "the strip")
-
-
-def drag(desktop, start_point, end_point):
-    steps = 5
-    desktop.run("xdotool", "mousemove", *map(str, start_point))
-    desktop.run("xdotool", "mousedown", "1")
-    for step in range(1, steps + 1):
-        point = [a + (b - a) * step // steps for a, b in zip(start_point, end_point)]
-        desktop.run("xdotool", "mousemove", *map(str, point))
-    desktop.run("xdotool", "mouseup", "1")
-
-
-def middle(window):
-    _, x, y, width, height = window
-    return x + width // 2, y + height // 2
+from program import DesktopTestCase, dashboard, start, strip
+from strips import covers, drag, film, is_seen, middle, wait_for_strip
 
 
 class Strip(DesktopTestCase):
@@ -82,13 +64,29 @@ class Strip(DesktopTestCase):
             wait_until(lambda: (now := strip(desktop, again)) and now[1:] == moved[1:], 10,
                        "the strip where it was left")
 
-    def test_it_gives_way_to_a_panel(self):
-        with self.desktop() as desktop, Bus(desktop.bus_address) as bus:
+    def test_it_is_hidden_behind_a_window_over_the_whole_screen(self):
+        with self.desktop() as desktop:
+            window = wait_for_strip(desktop, start(desktop))
+            wait_until(lambda: is_seen(desktop, window), 10, "the strip's picture")
+            with film(desktop):
+                wait_until(lambda: covers(desktop, window), 10, "nothing but the film")
+                time.sleep(3)  # so that the figures change
+                self.assertTrue(covers(desktop, window))
+            wait_until(lambda: is_seen(desktop, window), 10, "the strip's picture after the film")
+
+    def test_it_gives_way_to_a_panel_and_is_back_three_seconds_after_that_has_gone(self):
+        with self.desktop() as desktop:
             program = start(desktop)
-            wait_for_strip(desktop, program)
-            hosts.xfce(desktop)
-            wait_for_item(bus, program)
-            wait_until(lambda: not strip(desktop, program), 5, "the strip's end")
+            for name in ("xfce", "lxqt", "trayer"):
+                with self.subTest(name):
+                    wait_for_strip(desktop, program)
+                    panel = hosts.BY_NAME[name].start(desktop)
+                    wait_until(lambda: not strip(desktop, program), 2, "the strip's end")
+                    panel.kill()
+                    gone_at = time.monotonic()
+                    wait_for_strip(desktop, program)
+                    # Not before, since a panel that crashes is mostly started again.
+                    self.assertGreater(time.monotonic() - gone_at, 2.5)
 
 
 if __name__ == "__main__":

@@ -83,7 +83,7 @@ QtApplication::QtApplication(Start start, PreferenceStore& preferences)
     : start_(std::move(start)),
       arguments_{start_.program.data(), nullptr},  // Qt understands options that are not ours
       application_(prepared(argumentCount_), arguments_.data()),
-      appearance_(Appearance::aqua),
+      theme_([this](const DesktopLook& look) { appearance_.setFallback(look); }),
       resumeSignal_([this] { sleepWatcher_.check(); }),
       logindSignal_(QDBusConnection::systemBus(), [this] { sleepWatcher_.hearOfWakeUp(); }),
       runLoop_([this] { sleepWatcher_.check(); }),
@@ -112,15 +112,17 @@ QtApplication::QtApplication(Start start, PreferenceStore& preferences)
     };
     applyPalette();
     appearance_.observe(applyPalette);
+    theme_.follow();
     appearance_.follow(QDBusConnection::sessionBus());
 }
 
 void QtApplication::run() {
-    if (!std::exchange(terminated_, false) && instance_.claim(start_.options)) {
+    // Claiming may take a while, in which the end may be asked for as well.
+    if (!terminated_ && instance_.claim(start_.options) && !terminated_) {
         runLoop_.performOnMain([this] { launched(); });
         QApplication::exec();
-        terminated_ = false;
     }
+    terminated_ = false;
 }
 
 void QtApplication::launched() {

@@ -21,6 +21,7 @@
 #include "platform/qt/TerminationSignals.h"
 #include "platform/qt/drawing/QtTextMeasure.h"
 #include "platform/qt/statusitem/QtStatusBar.h"
+#include "platform/qt/theme/DesktopTheme.h"
 #include "platform/qt/widgets/QtWidgetFactory.h"
 #include "platform/qt/windows/QtWindowFactory.h"
 
@@ -73,6 +74,7 @@ private:
     int argumentCount_ = 1;
     QApplication application_;
     SystemAppearance appearance_;
+    DesktopTheme theme_;
     SleepWatcher sleepWatcher_;
     ResumeSignal resumeSignal_;
     LogindSignal logindSignal_;

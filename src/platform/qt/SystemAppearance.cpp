@@ -41,7 +41,7 @@ std::optional<Appearance> appearanceFor(unsigned colorScheme) {
 
 }  // namespace
 
-SystemAppearance::SystemAppearance(Appearance fallback) : fallback_(fallback) {}
+SystemAppearance::SystemAppearance(const DesktopLook& fallback) : fallback_(fallback) {}
 
 void SystemAppearance::follow(QDBusConnection bus) {
     if (!bus.isConnected()) {
@@ -63,8 +63,8 @@ void SystemAppearance::observe(std::function<void()> handler) {
     handlers_.push_back(std::move(handler));
 }
 
-void SystemAppearance::setFallback(Appearance fallback) {
-    change([this, fallback] { fallback_ = fallback; });
+void SystemAppearance::setFallback(const DesktopLook& fallback) {
+    change([&] { fallback_ = fallback; });
 }
 
 void SystemAppearance::apply(const QString& group, const QString& key, const QVariant& value) {
@@ -73,11 +73,11 @@ void SystemAppearance::apply(const QString& group, const QString& key, const QVa
         if (key == QStringLiteral("color-scheme")) {
             change([&] { preference_ = appearanceFor(plain.toUInt()); });
         } else if (key == QStringLiteral("reduced-motion")) {
-            reducesMotion_ = plain.toUInt() == 1;
+            prefersReducedMotion_ = plain.toUInt() == 1;
         }
     } else if (group == interfaceGroup && key == QStringLiteral("enable-animations") &&
                plain.metaType() == QMetaType::fromType<bool>()) {
-        reducesMotion_ = !plain.toBool();
+        animates_ = plain.toBool();
     }
 }
 

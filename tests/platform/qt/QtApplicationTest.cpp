@@ -83,9 +83,9 @@ TEST(QtApplication, ChangesItsPaletteBeforeAnyoneIsToldOfANewAppearance) {
             seen = QApplication::palette().color(QPalette::Window);
         }
     });
-    application.appearance().setFallback(Appearance::darkAqua);
+    application.appearance().setFallback({Appearance::darkAqua});
     EXPECT_EQ(seen, windowBackground(Appearance::darkAqua));
-    application.appearance().setFallback(Appearance::aqua);
+    application.appearance().setFallback({Appearance::aqua});
     EXPECT_EQ(seen, windowBackground(Appearance::aqua));
 }
 

@@ -20,7 +20,7 @@ QVariant scheme(unsigned number) {
 }
 
 struct SystemAppearanceTest : testing::Test {
-    SystemAppearance appearance{Appearance::aqua};
+    SystemAppearance appearance;
     int changes = 0;
 
     SystemAppearanceTest() {
@@ -30,7 +30,7 @@ struct SystemAppearanceTest : testing::Test {
 
 TEST_F(SystemAppearanceTest, StartsWithItsFallback) {
     EXPECT_EQ(appearance.current(), Appearance::aqua);
-    EXPECT_EQ(SystemAppearance(Appearance::darkAqua).current(), Appearance::darkAqua);
+    EXPECT_EQ(SystemAppearance(DesktopLook{Appearance::darkAqua}).current(), Appearance::darkAqua);
 }
 
 TEST_F(SystemAppearanceTest, FollowsThePreferenceForDark) {
@@ -46,7 +46,7 @@ TEST_F(SystemAppearanceTest, TellsNobodyWhenNothingChanged) {
 }
 
 TEST_F(SystemAppearanceTest, FallsBackWithoutAPreference) {
-    appearance.setFallback(Appearance::darkAqua);
+    appearance.setFallback({Appearance::darkAqua});
     appearance.apply(appearanceGroup, "color-scheme", scheme(2));
     EXPECT_EQ(appearance.current(), Appearance::aqua);
     appearance.apply(appearanceGroup, "color-scheme", scheme(0));
@@ -77,6 +77,23 @@ TEST_F(SystemAppearanceTest, ReducesMotionWhereTheDesktopDoes) {
     EXPECT_FALSE(appearance.reducesMotion());
     appearance.apply(appearanceGroup, "reduced-motion", scheme(1));
     EXPECT_TRUE(appearance.reducesMotion());
+    appearance.apply(gnomeGroup, "enable-animations", true);
+    EXPECT_TRUE(appearance.reducesMotion()) << "the one wish does not revoke the other";
+}
+
+TEST_F(SystemAppearanceTest, ReducesMotionWhereTheApplicationsDoUnlessThePortalKnowsBetter) {
+    appearance.setFallback({.animates = false});
+    EXPECT_TRUE(appearance.reducesMotion());
+    appearance.apply(gnomeGroup, "enable-animations", true);
+    EXPECT_FALSE(appearance.reducesMotion());
+}
+
+TEST_F(SystemAppearanceTest, FollowsItsFallback) {
+    appearance.setFallback({.appearance = Appearance::darkAqua});
+    EXPECT_EQ(appearance.current(), Appearance::darkAqua);
+    EXPECT_EQ(changes, 1);
+    appearance.setFallback({.appearance = Appearance::darkAqua, .animates = false});
+    EXPECT_EQ(changes, 1);
 }
 
 using Groups = QMap<QString, QVariantMap>;

@@ -7,16 +7,12 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdlib>
+
+#include "platform/linux/base/Environment.h"
 
 namespace zephrine {
 
 namespace {
-
-std::string environmentVariable(const char* name) {
-    const char* const value = std::getenv(name);
-    return value == nullptr ? std::string() : value;
-}
 
 bool isDigit(char character) {
     return character >= '0' && character <= '9';

@@ -2,7 +2,7 @@
 // _NET_WM_DESKTOP of https://specifications.freedesktop.org/wm-spec/latest/.
 #include "platform/qt/statusitem/AllDesktops.h"
 
-#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 

@@ -19,15 +19,15 @@ struct KnownHost {
 constexpr std::array<std::string_view, 2> kXfce{"panel-", "xfce4-panel"};
 
 constexpr std::array kKnownHosts{
-    KnownHost{"waybar", HostForm::wideDoubled},
+    KnownHost{"waybar", HostForm::line},
     KnownHost{"xapp-sn-watcher", HostForm::wideDoubled},  // Cinnamon
-    KnownHost{"notification-ar", HostForm::wideExact},    // MATE: notification-area-applet
+    KnownHost{"notification-ar", HostForm::wideDoubled},  // MATE: notification-area-applet
     KnownHost{kXfce[0], HostForm::squares},
     KnownHost{kXfce[1], HostForm::squares},
     KnownHost{"lxqt-panel", HostForm::squares},
     KnownHost{"kded", HostForm::squares},  // Plasma's watcher; the version number follows
     KnownHost{"plasmashell", HostForm::squares},
-    KnownHost{"swaybar", HostForm::squares},
+    KnownHost{"swaybar", HostForm::multipliedSquares},
     KnownHost{"budgie", HostForm::squares},
     KnownHost{"gnome-shell", HostForm::labelled},
 };

@@ -9,11 +9,12 @@ namespace zephrine {
 
 enum class HostForm {
     wideDoubled,  ///< keeps wide pictures wide and scales them to its height
-    wideExact,    ///< keeps wide pictures wide and as large as they are
+    line,         ///< keeps wide pictures wide, but scales them to the height of one line of text
     wideFile,     ///< squeezes pixels that it is sent, but not a picture that it reads from a file
     labelled,     ///< squeezes pictures, but sets text beside them
     squares,      ///< squeezes whatever is not square
-    mixed,        ///< not known: squares, ascending, then a wide picture for those that take it
+    multipliedSquares,  ///< the same, and takes colours as multiplied by their opacity already
+    mixed,  ///< not known: squares, ascending, then a wide picture for those that take it
 };
 
 [[nodiscard]] HostForm formOfHost(const HostProcess& host);

@@ -21,6 +21,16 @@ void addPixmap(NotifierPixmaps& pixmaps, const QImage& image) {
     pixmaps.append(pixmap);
 }
 
+NotifierPixmaps multipliedByOpacity(NotifierPixmaps pixmaps) {
+    for (NotifierPixmap& pixmap : pixmaps) {
+        char* pixel = pixmap.argb.data();
+        for (const char* const end = pixel + pixmap.argb.size(); pixel < end; pixel += 4) {
+            qToBigEndian(qPremultiply(qFromBigEndian<quint32>(pixel)), pixel);
+        }
+    }
+    return pixmaps;
+}
+
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap) {
     argument.beginStructure();
     argument << pixmap.width << pixmap.height << pixmap.argb;

@@ -23,6 +23,10 @@ using NotifierPixmaps = QList<NotifierPixmap>;
 /// Appends `image`; a null image is no picture and is left out.
 void addPixmap(NotifierPixmaps& pixmaps, const QImage& image);
 
+/// The same pictures for a panel that does not multiply colours by their opacity, though the
+/// protocol leaves that to it.
+[[nodiscard]] NotifierPixmaps multipliedByOpacity(NotifierPixmaps pixmaps);
+
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap);
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);
 

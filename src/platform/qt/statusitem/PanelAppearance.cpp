@@ -2,6 +2,7 @@
 // When to look at the panel, and what is known without looking.
 #include "platform/qt/statusitem/PanelAppearance.h"
 
+#include <string_view>
 #include <utility>
 
 namespace zephrine {
@@ -11,6 +12,12 @@ namespace {
 // A little less than two seconds, so that a caller who asks every second or two is not put off by
 // the jitter of its own timer.
 constexpr std::chrono::milliseconds kRest{1900};
+
+/// GNOME's top bar is dark in every theme of its own. The bars are dark as they come, and exist
+/// under Wayland alone, where nobody can look at them.
+bool isKnownToBeDark(std::string_view command) {
+    return command == "gnome-shell" || command == "waybar" || command == "swaybar";
+}
 
 }  // namespace
 
@@ -27,8 +34,8 @@ std::optional<Appearance> PanelAppearance::current() {
     if (!host_) {
         return std::nullopt;
     }
-    if (host_->command == "gnome-shell") {
-        return Appearance::darkAqua;  // its top bar is dark in every theme of its own
+    if (isKnownToBeDark(host_->command)) {
+        return Appearance::darkAqua;
     }
     const TimePoint now = now_();
     if (!lookedAt_ || now - *lookedAt_ >= kRest) {

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// /proc/PID/comm and field 4 of /proc/PID/stat: proc_pid_comm(5), proc_pid_stat(5).
+// /proc/PID/comm (proc_pid_comm(5)) and /proc/PID/stat.
 #include "platform/qt/statusitem/ProcessFacts.h"
 
 #include <array>
 #include <limits>
+#include <string_view>
 
 #include "platform/linux/base/CounterFile.h"
-#include "platform/linux/base/TextScan.h"
+#include "platform/linux/processes/ProcPidStat.h"
 
 namespace zephrine {
 
@@ -26,21 +27,11 @@ std::string commandOf(pid_t pid) {
 
 std::optional<pid_t> parentOf(pid_t pid) {
     std::array<char, 512> buffer{};
-    return parentInStat(CounterFile(pathOf(pid, "stat")).read(buffer).value_or(""));
-}
-
-std::optional<pid_t> parentInStat(std::string_view stat) {
-    const std::size_t end = stat.rfind(')');
-    if (end == std::string_view::npos) {
+    const auto stat = parseProcPidStat(CounterFile(pathOf(pid, "stat")).read(buffer).value_or(""));
+    if (!stat || stat->parent == 0 || stat->parent > std::numeric_limits<pid_t>::max()) {
         return std::nullopt;
     }
-    std::string_view rest = stat.substr(end + 1);
-    takeWord(rest);  // the state
-    const auto parent = parseUnsigned(takeWord(rest));
-    if (!parent || *parent == 0 || *parent > std::numeric_limits<pid_t>::max()) {
-        return std::nullopt;
-    }
-    return static_cast<pid_t>(*parent);
+    return static_cast<pid_t>(stat->parent);
 }
 
 }  // namespace zephrine

@@ -6,7 +6,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace zephrine {
 
@@ -14,9 +13,5 @@ namespace zephrine {
 [[nodiscard]] std::string commandOf(pid_t pid);
 
 [[nodiscard]] std::optional<pid_t> parentOf(pid_t pid);
-
-/// The parent in the text of /proc/PID/stat. The command name, which stands in parentheses before
-/// it, may hold blanks and parentheses itself.
-[[nodiscard]] std::optional<pid_t> parentInStat(std::string_view stat);
 
 }  // namespace zephrine

@@ -9,14 +9,14 @@
 
 #include "platform/qt/drawing/PlainText.h"
 #include "platform/qt/statusitem/BusText.h"
-#include "platform/qt/statusitem/X11.h"
 #include "platform/qt/statusitem/forms/Forms.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
 namespace {
 
-/// And not just beside it: a Wayland session has an X server, too.
+/// And not just beside it: a Wayland session has an X server, too, which shows only some windows.
 bool isOnX11() {
     return x11Connection() != nullptr && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
@@ -44,7 +44,7 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
                   .quit = [this] { performLater(services_.quit); }}),
       files_(pictureFolder()),
       strip_(services.preferences),
-      probe_(x11Connection()),
+      probe_(isOnX11() ? x11Connection() : nullptr),
       panelAppearance_(probe_, [] { return std::chrono::steady_clock::now(); }),
       told_(services.systemAppearance.current()),
       drawnFor_(told_) {

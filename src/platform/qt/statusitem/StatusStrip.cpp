@@ -14,6 +14,7 @@
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/RenderImage.h"
 #include "platform/qt/statusitem/AllDesktops.h"
+#include "platform/qt/statusitem/BelowFullScreen.h"
 #include "platform/qt/statusitem/StripPlace.h"
 #include "platform/qt/windows/WorkArea.h"
 #include "platform/qt/windows/X11Windows.h"
@@ -71,11 +72,11 @@ void StatusStrip::setLength(double length) {
 
 void StatusStrip::setPicture(const Image& picture, Appearance appearance) {
     QImage pixels = renderImage(picture, devicePixelRatioF(), appearance);
-    if (pixels == picture_ && appearance == appearance_) {
+    if (pixels == pixels_ && appearance == appearance_) {
         return;
     }
-    picture_ = std::move(pixels);
-    pictureSize_ = picture.size;
+    picture_ = picture;
+    pixels_ = std::move(pixels);
     appearance_ = appearance;
     fitSize();
     update();
@@ -90,6 +91,8 @@ void StatusStrip::setShown(bool shown) {
         winId();  // makes the window, which window managers look at when it appears
         keepOutOfTaskBar(*windowHandle());
         showOnAllDesktops(*windowHandle());
+        stayBelowFullScreen(*windowHandle());
+        connect(windowHandle(), &QWindow::screenChanged, this, &StatusStrip::screenChanged);
         show();
     } else {
         hide();
@@ -110,11 +113,15 @@ void StatusStrip::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(border);
     painter.setBrush(windowBackground(appearance_));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
-    painter.drawImage(QPointF((width() - pictureSize_.width) / 2, kPadding), picture_);
+    painter.drawImage(QPointF((width() - picture_.size.width) / 2, kPadding), pixels_);
 }
 
 void StatusStrip::resizeEvent(QResizeEvent* event) {
     QPushButton::resizeEvent(event);
+    cutShape();
+}
+
+void StatusStrip::cutShape() {
     // A shaped window, since a translucent one has black corners where nothing composes windows.
     QBitmap shape(size());
     shape.clear();
@@ -123,7 +130,15 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
     painter.setPen(Qt::color1);
     painter.drawRoundedRect(rect().adjusted(0, 0, -1, -1), kRadius, kRadius);
     painter.end();
+    clearMask();  // Qt sends no shape that it has sent before, though in pixels it is another one
     setMask(shape);
+}
+
+/// The user has dragged it to a screen that may have another density.
+void StatusStrip::screenChanged() {
+    cutShape();
+    pixels_ = renderImage(picture_, devicePixelRatioF(), appearance_);
+    update();
 }
 
 void StatusStrip::mousePressEvent(QMouseEvent* event) {
@@ -175,8 +190,8 @@ void StatusStrip::takePlace() {
 }
 
 void StatusStrip::fitSize() {
-    const QSize fitting(static_cast<int>(std::ceil(std::max(length_, pictureSize_.width))),
-                        static_cast<int>(std::ceil(pictureSize_.height)) + 2 * kPadding);
+    const QSize fitting(static_cast<int>(std::ceil(std::max(length_, picture_.size.width))),
+                        static_cast<int>(std::ceil(picture_.size.height)) + 2 * kPadding);
     if (fitting != size()) {
         setFixedSize(fitting);
         takePlace();

@@ -51,12 +51,14 @@ private:
     void follow(QScreen* screen);
     void takePlace();
     void fitSize();
+    void cutShape();
+    void screenChanged();
 
     PreferenceStore& preferences_;
     std::string placeName_;
     double length_ = 0;
-    Size pictureSize_;
-    QImage picture_;
+    Image picture_;
+    QImage pixels_;  ///< the picture, drawn for the density of the screen
     Appearance appearance_ = Appearance::aqua;
     std::optional<Grip> grip_;
     bool isDragged_ = false;

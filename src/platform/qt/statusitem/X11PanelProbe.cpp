@@ -3,14 +3,16 @@
 // error. Names of properties: https://specifications.freedesktop.org/wm-spec/latest/.
 #include "platform/qt/statusitem/X11PanelProbe.h"
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <algorithm>
-#include <bit>
 #include <cstring>
 #include <utility>
 
+#include "platform/qt/statusitem/DrawnPanel.h"
 #include "platform/qt/statusitem/PanelPixels.h"
 #include "platform/qt/statusitem/ProcessFacts.h"
-#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -26,12 +28,13 @@ X11PanelProbe::X11PanelProbe(xcb_connection_t* connection) : connection_(connect
         return;
     }
     screen_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
-    atoms_ = internAtoms<atomCount>(connection_, {"_NET_CLIENT_LIST", "_NET_WM_WINDOW_TYPE",
-                                                  "_NET_WM_WINDOW_TYPE_DOCK", "_NET_WM_PID"});
+    atoms_ = internAtoms<atomCount>(
+        connection_, {"_NET_CLIENT_LIST", "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DOCK",
+                      "_NET_WM_PID", "_GTK_WORKAREAS_D0"});
 }
 
 std::optional<Appearance> X11PanelProbe::look(std::optional<pid_t> host) {
-    if (connection_ == nullptr || !canReadPixels()) {
+    if (connection_ == nullptr || !hasPlainPixels(connection_, screen_->root_depth)) {
         return std::nullopt;
     }
     auto area = host == panelHost_ ? visibleArea(panel_) : std::nullopt;
@@ -40,37 +43,15 @@ std::optional<Appearance> X11PanelProbe::look(std::optional<pid_t> host) {
         panelHost_ = host;
         area = visibleArea(panel_);
     }
+    if (!area) {
+        area = areaOfDrawnPanel();
+    }
     return area ? appearanceOfPixels(pixelsAtEdges(*area)) : std::nullopt;
-}
-
-bool X11PanelProbe::canReadPixels() const {
-    const xcb_setup_t* const setup = xcb_get_setup(connection_);
-    const bool isLittle = setup->image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST;
-    if (isLittle != (std::endian::native == std::endian::little)) {
-        return false;
-    }
-    for (auto format = xcb_setup_pixmap_formats_iterator(setup); format.rem > 0;
-         xcb_format_next(&format)) {
-        if (format.data->depth == screen_->root_depth) {
-            return screen_->root_depth >= 24 && format.data->bits_per_pixel == 32;
-        }
-    }
-    return false;
 }
 
 xcb_get_property_cookie_t X11PanelProbe::askProperty(xcb_window_t window, Atom name) const {
     return xcb_get_property(connection_, 0, window, atoms_[name], XCB_GET_PROPERTY_TYPE_ANY, 0,
                             kMostWords);
-}
-
-std::vector<std::uint32_t> X11PanelProbe::property(xcb_get_property_cookie_t cookie) const {
-    const auto reply = own(xcb_get_property_reply(connection_, cookie, nullptr));
-    if (!reply || reply->format != 32) {
-        return {};
-    }
-    const auto* const words =
-        static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    return {words, words + reply->value_len};
 }
 
 std::vector<xcb_window_t> X11PanelProbe::rootChildren() const {
@@ -92,7 +73,7 @@ std::vector<xcb_window_t> X11PanelProbe::docksAmong(
     }
     std::vector<xcb_window_t> docks;
     for (std::size_t i = 0; i < windows.size(); ++i) {
-        const auto types = property(cookies[i]);
+        const auto types = propertyWords(connection_, cookies[i]);
         if (std::find(types.begin(), types.end(), atoms_[dockType]) != types.end()) {
             docks.push_back(windows[i]);
         }
@@ -101,7 +82,7 @@ std::vector<xcb_window_t> X11PanelProbe::docksAmong(
 }
 
 xcb_window_t X11PanelProbe::findPanel(std::optional<pid_t> host) const {
-    auto docks = docksAmong(property(askProperty(screen_->root, clientList)));
+    auto docks = docksAmong(propertyWords(connection_, askProperty(screen_->root, clientList)));
     if (docks.empty()) {
         docks = docksAmong(rootChildren());  // no window manager, or it does not list docks
     }
@@ -109,7 +90,7 @@ xcb_window_t X11PanelProbe::findPanel(std::optional<pid_t> host) const {
     const auto parent = host ? parentOf(*host) : std::nullopt;
     xcb_window_t best = docks.empty() ? xcb_window_t{XCB_NONE} : docks.front();
     for (const xcb_window_t dock : docks) {
-        const auto pid = property(askProperty(dock, windowPid));
+        const auto pid = propertyWords(connection_, askProperty(dock, windowPid));
         const auto isOf = [&](std::optional<pid_t> process) {
             return process && pid.size() == 1 && std::cmp_equal(pid.front(), *process);
         };
@@ -138,16 +119,36 @@ std::optional<X11PanelProbe::Area> X11PanelProbe::visibleArea(xcb_window_t windo
     if (!attributes || !geometry || !origin || attributes->map_state != XCB_MAP_STATE_VIEWABLE) {
         return std::nullopt;
     }
-    const int left = std::max<int>(origin->dst_x, 0);
-    const int top = std::max<int>(origin->dst_y, 0);
-    const int right = std::min<int>(origin->dst_x + geometry->width, screen_->width_in_pixels);
-    const int bottom = std::min<int>(origin->dst_y + geometry->height, screen_->height_in_pixels);
-    // What a hidden panel leaves at the edge is too little to be looked at.
-    if (right - left <= 2 * kInset || bottom - top <= 2 * kInset) {
+    return areaOnScreen({origin->dst_x, origin->dst_y, geometry->width, geometry->height});
+}
+
+std::optional<X11PanelProbe::Area> X11PanelProbe::areaOfDrawnPanel() const {
+    const QScreen* const monitor = QGuiApplication::primaryScreen();
+    if (monitor == nullptr) {
         return std::nullopt;
     }
-    return Area{static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
-                static_cast<std::uint16_t>(right - left), static_cast<std::uint16_t>(bottom - top)};
+    // Qt leaves the corner of a monitor where X11 has it, and scales its size.
+    const QRect pixels(monitor->geometry().topLeft(),
+                       monitor->geometry().size() * monitor->devicePixelRatio());
+    const auto strip =
+        drawnPanel(pixels & QRect(QPoint(), screenSize()),
+                   propertyWords(connection_, askProperty(screen_->root, workAreas)));
+    return strip ? areaOnScreen(*strip) : std::nullopt;
+}
+
+QSize X11PanelProbe::screenSize() const {
+    return rootSize(connection_, screen_->root);
+}
+
+std::optional<X11PanelProbe::Area> X11PanelProbe::areaOnScreen(const QRect& rect) const {
+    const QRect part = rect & QRect(QPoint(), screenSize());
+    // What a hidden panel leaves at the edge is too little to be looked at.
+    if (part.width() <= 2 * kInset || part.height() <= 2 * kInset) {
+        return std::nullopt;
+    }
+    return Area{static_cast<std::int16_t>(part.x()), static_cast<std::int16_t>(part.y()),
+                static_cast<std::uint16_t>(part.width()),
+                static_cast<std::uint16_t>(part.height())};
 }
 
 std::vector<std::uint32_t> X11PanelProbe::pixelsAtEdges(const Area& area) const {

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Looks at panels through X11: a panel is a window of the type "dock", and what counts is what is
-// on the screen where it stands, whoever composed it there.
+// Looks at panels through X11: a panel is a window of the type "dock", or what the desktop draws
+// beside the work area; what counts is what is on the screen there, whoever composed it.
 #pragma once
 
 #include <xcb/xcb.h>
 
+#include <QRect>
 #include <array>
 #include <cstdint>
 #include <vector>
@@ -27,16 +28,17 @@ private:
         std::uint16_t width;
         std::uint16_t height;
     };
-    enum Atom { clientList, windowType, dockType, windowPid, atomCount };
+    enum Atom { clientList, windowType, dockType, windowPid, workAreas, atomCount };
 
-    [[nodiscard]] bool canReadPixels() const;
-    [[nodiscard]] std::vector<std::uint32_t> property(xcb_get_property_cookie_t cookie) const;
     [[nodiscard]] xcb_get_property_cookie_t askProperty(xcb_window_t window, Atom name) const;
     [[nodiscard]] std::vector<xcb_window_t> rootChildren() const;
     [[nodiscard]] std::vector<xcb_window_t> docksAmong(
         const std::vector<xcb_window_t>& windows) const;
     [[nodiscard]] xcb_window_t findPanel(std::optional<pid_t> host) const;
     [[nodiscard]] std::optional<Area> visibleArea(xcb_window_t window) const;
+    [[nodiscard]] std::optional<Area> areaOfDrawnPanel() const;
+    [[nodiscard]] QSize screenSize() const;
+    [[nodiscard]] std::optional<Area> areaOnScreen(const QRect& rect) const;
     [[nodiscard]] std::vector<std::uint32_t> pixelsAtEdges(const Area& area) const;
 
     xcb_connection_t* connection_;

@@ -9,14 +9,18 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Palette.h"
+#include "platform/qt/windows/SwayPlacement.h"
 #include "platform/qt/windows/X11Windows.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -27,6 +31,9 @@ constexpr int shadow = 14;
 constexpr int shadowDrop = 3;
 constexpr double radius = 11;
 constexpr int fadeTime = 110;  // milliseconds
+// A compositor knows a window of the X server only some time after it was shown.
+constexpr int kPlacementAttempts = 50;
+constexpr std::chrono::milliseconds kPlacementInterval{20};
 
 void paintShadow(QPainter& painter, const QRectF& panel) {
     // Rings of growing size and falling strength; together they look like a blur. The first lie
@@ -97,11 +104,26 @@ void PopoverFrame::open(QPoint corner) {
     if (fades) {
         fade_.start();
     }
+    placeByCompositor(kPlacementAttempts);
     holdMouse();
 }
 
 void PopoverFrame::moveTo(QPoint corner) {
     move(corner - panel().topLeft());
+}
+
+void PopoverFrame::placeByCompositor(int attempts) {
+    const std::string socket = qEnvironmentVariable("SWAYSOCK").toStdString();
+    if (socket.empty() || x11Connection() == nullptr || !isVisible() || attempts == 0) {
+        return;
+    }
+    const double scale = devicePixelRatio();
+    const QRect pixels(panel().topLeft() * scale, panel().size() * scale);
+    const auto window = static_cast<std::uint32_t>(winId());
+    if (moveToPointerOnSway(socket, window, pixels) == SwayAnswer::unknownWindow) {
+        QTimer::singleShot(kPlacementInterval, this,
+                           [this, attempts] { placeByCompositor(attempts - 1); });
+    }
 }
 
 void PopoverFrame::holdMouse() {

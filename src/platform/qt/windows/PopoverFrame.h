@@ -48,6 +48,7 @@ private:
     [[nodiscard]] QRect panel() const;
     void adopt(bool composited);
     void hideByItself();
+    void placeByCompositor(int attempts);
 
     const SystemAppearance& appearance_;
     Handlers handlers_;

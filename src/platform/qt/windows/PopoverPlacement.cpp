@@ -57,4 +57,8 @@ QPoint placePopover(const std::optional<QRect>& item, const QRect& workArea, QSi
     return clampInto({fitsRight ? right : item->x() - gap - size.width(), centredY}, area, size);
 }
 
+QPoint moveInto(const QRect& workArea, QPoint corner, QSize size) {
+    return clampInto(corner, withMargins(workArea, size), size);
+}
+
 }  // namespace zephrine

@@ -15,4 +15,8 @@ namespace zephrine {
 /// right corner of `workArea`.
 QPoint placePopover(const std::optional<QRect>& item, const QRect& workArea, QSize size);
 
+/// The place nearest to `corner` at which a popover of `size` is inside `workArea`, with a gap to
+/// its edges where there is room for one.
+QPoint moveInto(const QRect& workArea, QPoint corner, QSize size);
+
 }  // namespace zephrine

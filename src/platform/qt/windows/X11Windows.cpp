@@ -12,7 +12,7 @@
 #include <span>
 #include <string_view>
 
-#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -30,18 +30,6 @@ const xcb_screen_t& screenOf(xcb_connection_t* connection) {
 xcb_get_property_cookie_t ask(xcb_connection_t* connection, xcb_window_t window,
                               xcb_atom_t property, xcb_atom_t type, std::uint32_t words) {
     return xcb_get_property(connection, 0, window, property, type, 0, words);
-}
-
-/// The property's 32-bit words; empty when it has none.
-std::vector<std::uint32_t> answer(xcb_connection_t* connection, xcb_get_property_cookie_t cookie) {
-    const auto reply = own(xcb_get_property_reply(connection, cookie, nullptr));
-    if (!reply || reply->format != 32) {
-        return {};
-    }
-    const auto bytes = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
-    const auto* const first =
-        static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    return {first, first + bytes / sizeof(std::uint32_t)};
 }
 
 std::optional<Strut> strutFrom(std::span<const std::uint32_t> words, QSize root) {
@@ -110,10 +98,10 @@ std::optional<X11Panels> x11Panels() {
     }
     constexpr std::uint32_t mostWindows = 4096;
     const xcb_screen_t& screen = screenOf(connection);
-    X11Panels panels{{screen.width_in_pixels, screen.height_in_pixels}, {}};
+    X11Panels panels{rootSize(connection, screen.root), {}};
     const auto windows =
-        answer(connection, ask(connection, screen.root, atom(connection, "_NET_CLIENT_LIST"),
-                               XCB_ATOM_WINDOW, mostWindows));
+        propertyWords(connection, ask(connection, screen.root, atom(connection, "_NET_CLIENT_LIST"),
+                                      XCB_ATOM_WINDOW, mostWindows));
     const xcb_atom_t partial = atom(connection, "_NET_WM_STRUT_PARTIAL");
     std::vector<xcb_get_property_cookie_t> cookies;  // all asked before the first is answered
     cookies.reserve(windows.size());
@@ -121,7 +109,7 @@ std::optional<X11Panels> x11Panels() {
         cookies.push_back(ask(connection, window, partial, XCB_ATOM_CARDINAL, 12));
     }
     for (const auto cookie : cookies) {
-        if (const auto strut = strutFrom(answer(connection, cookie), panels.root)) {
+        if (const auto strut = strutFrom(propertyWords(connection, cookie), panels.root)) {
             panels.struts.push_back(*strut);
         }
     }

@@ -4,11 +4,13 @@
 
 #include <xcb/xcb.h>
 
+#include <QSize>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace zephrine {
 
@@ -24,6 +26,23 @@ template <typename Reply>
 std::unique_ptr<Reply, FreeReply> own(Reply* reply) {
     return std::unique_ptr<Reply, FreeReply>(reply);
 }
+
+/// In device pixels, as it is now; the connection's setup keeps the size of its own start. Empty
+/// when the display is gone.
+[[nodiscard]] QSize rootSize(xcb_connection_t* connection, xcb_window_t root);
+
+/// Replaces the events that `connection` is sent of `window`.
+inline void listen(xcb_connection_t* connection, xcb_window_t window, std::uint32_t events) {
+    xcb_change_window_attributes(connection, window, XCB_CW_EVENT_MASK, &events);
+}
+
+/// The 32-bit words of the property that was asked for; empty when it has none.
+[[nodiscard]] std::vector<std::uint32_t> propertyWords(xcb_connection_t* connection,
+                                                       xcb_get_property_cookie_t asked);
+
+/// Whether pictures of this depth have four bytes for a pixel, in this machine's order, as they
+/// have on every desktop of today.
+[[nodiscard]] bool hasPlainPixels(xcb_connection_t* connection, std::uint8_t depth);
 
 /// Asks for all at once and waits once.
 template <std::size_t count>

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Events by the event loop of Qt.
-#include "platform/qt/statusitem/tray/TrayConnection.h"
+#include "platform/qt/x11/X11Client.h"
 
 #include <QMetaObject>
 #include <utility>
 
-#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
-TrayConnection::TrayConnection(Handler handler) : handler_(std::move(handler)) {
+X11Client::X11Client(Handler handler) : handler_(std::move(handler)) {
     if (x11Connection() == nullptr) {
         return;
     }
@@ -29,14 +29,14 @@ TrayConnection::TrayConnection(Handler handler) : handler_(std::move(handler)) {
     connect(notifier_.get(), &QSocketNotifier::activated, this, [this] { handleEvents(); });
 }
 
-void TrayConnection::flush() {
+void X11Client::flush() {
     xcb_flush(connection_.get());
     // A reply that was waited for may have brought events along: no socket becomes readable then.
     QMetaObject::invokeMethod(
         this, [this] { handleEvents(); }, Qt::QueuedConnection);
 }
 
-void TrayConnection::handleEvents() {
+void X11Client::handleEvents() {
     while (const auto event = own(xcb_poll_for_event(connection_.get()))) {
         handler_(*event);
     }

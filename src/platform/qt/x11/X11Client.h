@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A connection to the X server for the tray alone. Qt's own cannot be shared: which events a
-// window sends is one choice per connection, and Qt has made it for the root window.
+// A connection of our own to the X server, for who wants events that Qt does not pass on. Qt's
+// cannot be shared: which events a window sends is one choice per connection, and Qt has made it
+// for the root window.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -12,13 +13,13 @@
 
 namespace zephrine {
 
-class TrayConnection final : public QObject {
+class X11Client final : public QObject {
 public:
     using Handler = std::function<void(const xcb_generic_event_t&)>;
 
     /// To the display that Qt is on; closed when that is no X11 one. `handler` gets every event,
     /// from the event loop.
-    explicit TrayConnection(Handler handler);
+    explicit X11Client(Handler handler);
 
     [[nodiscard]] bool isOpen() const { return connection_ != nullptr; }
     /// Both only while it is open.

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QTemporaryDir>
+#include <QtEndian>
 
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/statusitem/BusText.h"
@@ -39,26 +40,92 @@ struct Forms : testing::Test {
     }
 };
 
-TEST_F(Forms, GiveAWidePictureAtTheScaleThatThePanelWants) {
+TEST_F(Forms, GiveAWidePictureLargeEnoughToBeScaledDown) {
     const auto doubled = pixmaps(HostForm::wideDoubled, sampleImage(), Appearance::aqua);
     EXPECT_EQ(widths(doubled), std::vector{136});
     EXPECT_EQ(doubled[0].height, 48);
-    const auto exact = pixmaps(HostForm::wideExact, sampleImage(), Appearance::aqua);
-    EXPECT_EQ(widths(exact), std::vector{68});
-    EXPECT_EQ(exact[0].height, 24);
+}
+
+/// As the real picture has them: a line of text above another, with a dot behind.
+StatusItemImage twoLines() {
+    return {{{68, 24}, [](DrawingContext& context) {
+                 context.setFill(Color::systemGreenColor);
+                 context.fillRect({1, 14, 40, 8});
+                 context.setFill(Color::systemRedColor);
+                 context.fillRect({1, 2, 30, 8});
+                 context.fillOval({62, 4, 4, 4});
+                 return true;
+             }}};
+}
+
+QImage pictureOf(const NotifierPixmap& pixmap) {
+    QImage picture(pixmap.width, pixmap.height, QImage::Format_ARGB32);
+    for (int y = 0; y < pixmap.height; ++y) {
+        qFromBigEndian<quint32>(pixmap.argb.constData() + qsizetype{4} * pixmap.width * y,
+                                pixmap.width, picture.scanLine(y));
+    }
+    return picture;
+}
+
+TEST_F(Forms, GiveBothLinesSideBySideWherePicturesAreAsHighAsOneLine) {
+    const auto given = pixmaps(HostForm::line, twoLines(), Appearance::aqua);
+    ASSERT_EQ(given.size(), 1);
+    const QImage line = pictureOf(given[0]);
+    EXPECT_EQ(line.height(), 48);
+    EXPECT_EQ(line.width(), (41 + 9 + 68) * 4) << "without the room behind the first line";
+    const auto colorAt = [&](int x, int y) { return line.pixelColor(4 * x, 4 * y); };
+    EXPECT_EQ(colorAt(20, 6), resolve(Color::systemGreenColor, Appearance::aqua));
+    EXPECT_EQ(colorAt(44, 6).alpha(), 0);
+    EXPECT_EQ(colorAt(50 + 20, 6), resolve(Color::systemRedColor, Appearance::aqua));
+    EXPECT_EQ(colorAt(50 + 64, 6), resolve(Color::systemRedColor, Appearance::aqua)) << "the dot";
+}
+
+TEST_F(Forms, GiveNoLineOfAPictureThatDoesNotDraw) {
+    EXPECT_EQ(pixmaps(HostForm::line, {}, Appearance::aqua), NotifierPixmaps());
+}
+
+TEST_F(Forms, GiveOneLineWhenNothingIsDrawnOnTheFirst) {
+    StatusItemImage image = twoLines();
+    image.wide.drawingHandler = [](DrawingContext& context) {
+        context.fillRect({1, 2, 30, 8});
+        return true;
+    };
+    EXPECT_EQ(widths(pixmaps(HostForm::line, image, Appearance::aqua)), std::vector{4 * 68});
 }
 
 TEST_F(Forms, GiveSquaresFromSmallToLarge) {
     const auto given = pixmaps(HostForm::squares, sampleImage(), Appearance::aqua);
-    EXPECT_EQ(widths(given), (std::vector{16, 22, 24, 32, 44, 48, 64}));
+    EXPECT_EQ(widths(given), (std::vector{16, 22, 24, 28, 32, 33, 44, 48, 64}));
     for (const NotifierPixmap& pixmap : given) {
         EXPECT_EQ(pixmap.width, pixmap.height);
     }
 }
 
+TEST_F(Forms, MultiplyTheColorsOfSquaresByTheirOpacityWhereThePanelDoesNot) {
+    StatusItemImage image;
+    image.square = [](double side) {
+        return Image{{side, side}, [side](DrawingContext& context) {
+                         context.setFill(Color::systemGreenColor);
+                         context.fillOval({0, 0, side, side});
+                         return true;
+                     }};
+    };
+    const auto plain = pixmaps(HostForm::squares, image, Appearance::aqua);
+    const auto multiplied = pixmaps(HostForm::multipliedSquares, image, Appearance::aqua);
+    ASSERT_EQ(widths(multiplied), widths(plain));
+    EXPECT_NE(multiplied, plain) << "the oval's edge is not quite opaque";
+    for (qsizetype i = 0; i < plain.size(); ++i) {
+        const QImage from = pictureOf(plain[i]);
+        const QImage to = pictureOf(multiplied[i]);
+        for (int x = 0; x < from.width(); ++x) {
+            EXPECT_EQ(to.pixel(x, 2), qPremultiply(from.pixel(x, 2))) << i << ' ' << x;
+        }
+    }
+}
+
 TEST_F(Forms, GiveAnUnknownPanelSquaresAndThenAWidePicture) {
     const auto given = pixmaps(HostForm::mixed, sampleImage(), Appearance::aqua);
-    EXPECT_EQ(widths(given), (std::vector{16, 22, 24, 32, 44, 48, 64, 136}));
+    EXPECT_EQ(widths(given), (std::vector{16, 22, 24, 28, 32, 33, 44, 48, 64, 136}));
 }
 
 TEST_F(Forms, GiveALabelBesideASmallSquare) {
@@ -111,12 +178,12 @@ TEST_F(Forms, LeaveOutWhatCannotBeDrawn) {
     EXPECT_TRUE(pixmaps(HostForm::mixed, {}, Appearance::aqua).isEmpty());
     StatusItemImage broken = sampleImage();
     broken.wide.drawingHandler = [](DrawingContext&) { return false; };
-    EXPECT_TRUE(pixmaps(HostForm::wideExact, broken, Appearance::aqua).isEmpty());
+    EXPECT_TRUE(pixmaps(HostForm::wideDoubled, broken, Appearance::aqua).isEmpty());
 }
 
 TEST_F(Forms, DrawInTheColoursOfThePanel) {
-    const auto light = pixmaps(HostForm::wideExact, sampleImage(), Appearance::aqua);
-    const auto dark = pixmaps(HostForm::wideExact, sampleImage(), Appearance::darkAqua);
+    const auto light = pixmaps(HostForm::wideDoubled, sampleImage(), Appearance::aqua);
+    const auto dark = pixmaps(HostForm::wideDoubled, sampleImage(), Appearance::darkAqua);
     ASSERT_NE(resolve(Color::systemGreenColor, Appearance::aqua),
               resolve(Color::systemGreenColor, Appearance::darkAqua));
     EXPECT_NE(light, dark);

@@ -11,14 +11,21 @@ HostForm formOf(const char* command) {
 }
 
 TEST(HostForm, GivesWidePicturesToPanelsThatKeepThemWide) {
-    EXPECT_EQ(formOf("waybar"), HostForm::wideDoubled);
     EXPECT_EQ(formOf("xapp-sn-watcher"), HostForm::wideDoubled);
-    EXPECT_EQ(formOf("notification-ar"), HostForm::wideExact);
+    EXPECT_EQ(formOf("notification-ar"), HostForm::wideDoubled);
+}
+
+TEST(HostForm, GivesSquaresOfAnotherKindToABarThatDoesNotMultiply) {
+    EXPECT_EQ(formOf("swaybar"), HostForm::multipliedSquares);
+}
+
+TEST(HostForm, GivesOneLineToABarThatScalesPicturesToItsText) {
+    EXPECT_EQ(formOf("waybar"), HostForm::line);
 }
 
 TEST(HostForm, GivesSquaresToPanelsThatSqueeze) {
     for (const char* command : {"panel-3-systray", "panel-12-systra", "xfce4-panel", "lxqt-panel",
-                                "kded5", "kded6", "plasmashell", "swaybar"}) {
+                                "kded5", "kded6", "plasmashell"}) {
         EXPECT_EQ(formOf(command), HostForm::squares) << command;
     }
 }

@@ -70,13 +70,15 @@ TEST_F(AppearanceOfThePanel, IsForgottenWithThePanel) {
     panel.setHost(HostProcess{42, "lxqt-panel"});
     EXPECT_EQ(panel.current(), Appearance::aqua);
     probe.seen = std::nullopt;
-    panel.setHost(HostProcess{43, "waybar"});
+    panel.setHost(HostProcess{43, "mate-panel"});
     EXPECT_EQ(panel.current(), std::nullopt);
 }
 
-TEST_F(AppearanceOfThePanel, IsKnownToBeDarkOnGNOMEWithoutLooking) {
-    panel.setHost(HostProcess{42, "gnome-shell"});
-    EXPECT_EQ(panel.current(), Appearance::darkAqua);
+TEST_F(AppearanceOfThePanel, IsKnownToBeDarkOfSomeWithoutLooking) {
+    for (const char* command : {"gnome-shell", "waybar", "swaybar"}) {
+        panel.setHost(HostProcess{42, command});
+        EXPECT_EQ(panel.current(), Appearance::darkAqua) << command;
+    }
     EXPECT_EQ(probe.looks, 0);
 }
 

@@ -25,18 +25,8 @@ TEST(ProcessFacts, KnowNothingOfAProcessThatDoesNotExist) {
     EXPECT_EQ(parentOf(-1), std::nullopt);
 }
 
-TEST(ProcessFacts, FindTheParentBehindAnyCommandName) {
-    EXPECT_EQ(parentInStat("42 (panel) S 41 42 42 0"), 41);
-    EXPECT_EQ(parentInStat("42 (a) S 7 (b) S 41 42"), 41);
-    EXPECT_EQ(parentInStat("42 (a\nb) R 41 42"), 41);
-}
-
-TEST(ProcessFacts, FindNoParentInATextThatHasNone) {
-    for (const char* text :
-         {"", "42", "42 (panel)", "42 (panel) S", "42 (panel) S x 42", "42 (panel) S -3 42",
-          "42 (panel) S 99999999999 42", "1 (init) S 0 1"}) {
-        EXPECT_EQ(parentInStat(text), std::nullopt) << text;
-    }
+TEST(ProcessFacts, KnowNoParentOfTheFirstProcess) {
+    EXPECT_EQ(parentOf(1), std::nullopt);
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ class StatusItemOnABus : public testing::Test {
 protected:
     PrivateBus bus;
     ClickGuard clickGuard;
-    SystemAppearance appearance{Appearance::aqua};
+    SystemAppearance appearance;
     FakePreferenceStore preferences;
     std::unique_ptr<QtStatusItem> item;
     int clicks = 0;
@@ -78,7 +78,7 @@ TEST_F(StatusItemOnABus, ShowsAnUnknownPanelSquaresAndAWidePicture) {
     makeItem();
     ASSERT_TRUE(hasItem(panel));
     const auto pixmaps = qdbus_cast<NotifierPixmaps>(panel.property("IconPixmap"));
-    ASSERT_EQ(pixmaps.size(), 8);
+    ASSERT_EQ(pixmaps.size(), 10);
     EXPECT_EQ(pixmaps.first().width, 16);
     EXPECT_EQ(pixmaps.last().width, 136);
 }
@@ -275,7 +275,7 @@ TEST_F(StatusItemOnABus, LooksAsTheSystemDoesWhereNoPanelCanBeSeen) {
     makeItem();
     ASSERT_TRUE(hasItem(panel));
     EXPECT_EQ(button().effectiveAppearance(), Appearance::aqua);
-    appearance.setFallback(Appearance::darkAqua);
+    appearance.setFallback({Appearance::darkAqua});
     EXPECT_EQ(button().effectiveAppearance(), Appearance::darkAqua);
 }
 

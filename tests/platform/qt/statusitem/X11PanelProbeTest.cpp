@@ -8,7 +8,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
-#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 namespace {
@@ -122,6 +122,19 @@ TEST_F(PanelOnX11, IsAbsentWhileItIsHiddenAndWhenItIsGone) {
     EXPECT_EQ(probe->look(1000), std::nullopt);
     xcb_destroy_window(connection, panel);
     EXPECT_EQ(probe->look(1000), std::nullopt);
+    addPanel(kLight, 0, 1000);
+    EXPECT_EQ(probe->look(1000), Appearance::aqua);
+}
+
+TEST_F(PanelOnX11, IsSeenBesideTheWorkAreaWhereTheDesktopDrawsIt) {
+    const auto [name] = internAtoms<1>(connection, {"_GTK_WORKAREAS_D0"});
+    const std::array<std::uint32_t, 4> workArea{0, 0, 300, 160};
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, screen()->root, name, XCB_ATOM_CARDINAL,
+                        32, workArea.size(), workArea.data());
+    paint(screen()->root, kLight);
+    EXPECT_EQ(probe->look(1000), Appearance::aqua);
+    paint(screen()->root, kDark);
+    EXPECT_EQ(probe->look(1000), Appearance::darkAqua);
     addPanel(kLight, 0, 1000);
     EXPECT_EQ(probe->look(1000), Appearance::aqua);
 }

@@ -84,7 +84,7 @@ TEST_F(DashboardWidgets, UseTheFontsOfTheTable) {
 
 TEST_F(DashboardWidgets, PaintTheColorsOfTheTableInBothAppearances) {
     for (const Appearance appearance : {Appearance::darkAqua, Appearance::aqua}) {
-        testApplication().appearance().setFallback(appearance);
+        testApplication().appearance().setFallback({appearance});
         forEachLabel([&](QLabel& label, const DashboardElement& row) {
             EXPECT_EQ(inkColor(label).name(), resolve(row.color, appearance).name());
         });

@@ -96,9 +96,9 @@ TEST_F(QtLabelTest, HasTheColourOfTheCurrentAppearance) {
     label.setStringValue(std::string(9, '\xdb'));  // drawn as replacement characters
     label.setTextColor(Color::systemRedColor);
     const QImage light = picture();
-    testApplication().appearance().setFallback(Appearance::darkAqua);
+    testApplication().appearance().setFallback({Appearance::darkAqua});
     const QImage dark = picture();
-    testApplication().appearance().setFallback(Appearance::aqua);
+    testApplication().appearance().setFallback({Appearance::aqua});
     EXPECT_NE(light, dark);
 }
 

@@ -146,9 +146,9 @@ TEST_F(QtWidgetsTest, HandACanvasItsSizeAndItsColours) {
     const QImage light = qtView(*canvas).widget().grab().toImage();
     EXPECT_EQ(seen, (Size{32, 16}));
     EXPECT_EQ(light.pixelColor(5, 5), resolve(Color::systemBlueColor, Appearance::aqua));
-    testApplication().appearance().setFallback(Appearance::darkAqua);
+    testApplication().appearance().setFallback({Appearance::darkAqua});
     const QImage dark = qtView(*canvas).widget().grab().toImage();
-    testApplication().appearance().setFallback(Appearance::aqua);
+    testApplication().appearance().setFallback({Appearance::aqua});
     EXPECT_EQ(dark.pixelColor(5, 5), resolve(Color::systemBlueColor, Appearance::darkAqua));
 }
 

@@ -140,7 +140,7 @@ TEST_F(SettingsWidgets, UseTheFontsOfTheTable) {
 
 TEST_F(SettingsWidgets, PaintTheColorsOfTheTableInBothAppearances) {
     for (const Appearance appearance : {Appearance::darkAqua, Appearance::aqua}) {
-        testApplication().appearance().setFallback(appearance);
+        testApplication().appearance().setFallback({appearance});
         forEachLabel([&](QLabel& label, const SettingsElement& row) {
             EXPECT_EQ(inkColor(label).name(), resolve(row.color, appearance).name());
         });

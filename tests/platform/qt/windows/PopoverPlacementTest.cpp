@@ -65,5 +65,12 @@ TEST(PopoverPlacement, ShowsItsTopWhereItIsTallerThanTheWorkArea) {
     EXPECT_EQ(placePopover(std::nullopt, QRect(0, 0, 300, 560), panel), QPoint(0, 0));
 }
 
+TEST(PopoverPlacement, MovesIntoTheWorkAreaNoFurtherThanNeeded) {
+    const QRect area(0, 30, 1000, 730);
+    EXPECT_EQ(moveInto(area, QPoint(200, 50), panel), QPoint(200, 50));
+    EXPECT_EQ(moveInto(area, QPoint(900, 0), panel), QPoint(1000 - 6 - 362, 36));
+    EXPECT_EQ(moveInto(area, QPoint(-50, 700), panel), QPoint(6, 760 - 6 - 662));
+}
+
 }  // namespace
 }  // namespace zephrine

@@ -3,6 +3,7 @@
 #include "platform/qt/statusitem/forms/Forms.h"
 
 #include "platform/qt/statusitem/forms/LabelForm.h"
+#include "platform/qt/statusitem/forms/LineForm.h"
 #include "platform/qt/statusitem/forms/SquareForm.h"
 #include "platform/qt/statusitem/forms/WideForm.h"
 
@@ -13,8 +14,8 @@ NotifierFace faceForHost(HostForm form, const StatusItemImage& image, Appearance
     switch (form) {
         case HostForm::wideDoubled:
             return {.pixmaps = widePixmaps(image, 2, appearance)};
-        case HostForm::wideExact:
-            return {.pixmaps = widePixmaps(image, 1, appearance)};
+        case HostForm::line:
+            return {.pixmaps = linePixmaps(image, appearance)};
         case HostForm::wideFile:
             if (const QString file = files.write(image.wide, appearance); !file.isEmpty()) {
                 return {.iconName = file};
@@ -24,6 +25,8 @@ NotifierFace faceForHost(HostForm form, const StatusItemImage& image, Appearance
             return labelledFace(image, appearance);
         case HostForm::squares:
             return {.pixmaps = squarePixmaps(image, appearance)};
+        case HostForm::multipliedSquares:
+            return {.pixmaps = multipliedByOpacity(squarePixmaps(image, appearance))};
         case HostForm::mixed:
             return {.pixmaps =
                         squarePixmaps(image, appearance) + widePixmaps(image, 2, appearance)};

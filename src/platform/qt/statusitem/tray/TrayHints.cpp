@@ -2,9 +2,7 @@
 // https://specifications.freedesktop.org/systemtray-spec, "Tray manager hints".
 #include "platform/qt/statusitem/tray/TrayHints.h"
 
-#include <bit>
-
-#include "platform/qt/statusitem/X11.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -13,12 +11,9 @@ namespace {
 /// 0 when the tray has no such hint.
 std::uint32_t hint(xcb_connection_t* connection, xcb_window_t manager, xcb_atom_t name,
                    xcb_atom_t type) {
-    const auto reply = own(xcb_get_property_reply(
-        connection, xcb_get_property(connection, 0, manager, name, type, 0, 1), nullptr));
-    if (!reply || reply->format != 32 || reply->value_len != 1) {
-        return 0;
-    }
-    return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    const auto words =
+        propertyWords(connection, xcb_get_property(connection, 0, manager, name, type, 0, 1));
+    return words.size() == 1 ? words.front() : 0;
 }
 
 /// 0 when the screen has no such visual.
@@ -33,20 +28,6 @@ std::uint8_t depthOf(const xcb_screen_t& screen, xcb_visualid_t visual) {
         }
     }
     return 0;
-}
-
-bool hasPlainPixels(const xcb_setup_t* setup, std::uint8_t depth) {
-    const bool isLittle = setup->image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST;
-    if (depth < 24 || isLittle != (std::endian::native == std::endian::little)) {
-        return false;
-    }
-    for (auto format = xcb_setup_pixmap_formats_iterator(setup); format.rem > 0;
-         xcb_format_next(&format)) {
-        if (format.data->depth == depth) {
-            return format.data->bits_per_pixel == 32;
-        }
-    }
-    return false;
 }
 
 }  // namespace
@@ -64,8 +45,7 @@ std::optional<TrayHints> hintsOfTray(xcb_connection_t* connection, const xcb_scr
         hints.visual = screen.root_visual;
         hints.depth = screen.root_depth;
     }
-    return hasPlainPixels(xcb_get_setup(connection), hints.depth) ? std::optional(hints)
-                                                                  : std::nullopt;
+    return hasPlainPixels(connection, hints.depth) ? std::optional(hints) : std::nullopt;
 }
 
 }  // namespace zephrine

@@ -13,8 +13,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/qt/statusitem/X11.h"
 #include "platform/qt/windows/X11Windows.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -22,10 +22,6 @@ namespace {
 
 // For a tray that was asked to take the item in, or to come back after it has gone.
 constexpr std::chrono::seconds kPatience{3};
-
-void listen(xcb_connection_t* connection, xcb_window_t window, std::uint32_t mask) {
-    xcb_change_window_attributes(connection, window, XCB_CW_EVENT_MASK, &mask);
-}
 
 }  // namespace
 
@@ -50,8 +46,8 @@ void TrayItem::setWanted(bool wanted) {
         setPresence(Presence::absent);
         return;
     }
-    connection_ = std::make_unique<TrayConnection>(
-        [this](const xcb_generic_event_t& event) { handle(event); });
+    connection_ =
+        std::make_unique<X11Client>([this](const xcb_generic_event_t& event) { handle(event); });
     if (connection_->isOpen()) {
         const auto atoms = internAtoms<2>(connection_->get(), {"_NET_SYSTEM_TRAY_S0", "MANAGER"});
         selection_ = atoms[0];

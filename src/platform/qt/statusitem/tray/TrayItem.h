@@ -11,9 +11,9 @@
 #include <optional>
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/tray/TrayConnection.h"
 #include "platform/qt/statusitem/tray/TrayHints.h"
 #include "platform/qt/statusitem/tray/TrayWindow.h"
+#include "platform/qt/x11/X11Client.h"
 
 namespace zephrine {
 
@@ -55,7 +55,7 @@ private:
     void leaveTray();
     void setPresence(Presence presence);
 
-    std::unique_ptr<TrayConnection> connection_;  // only while it is wanted
+    std::unique_ptr<X11Client> connection_;  // only while it is wanted
     xcb_atom_t selection_ = XCB_ATOM_NONE;
     xcb_atom_t managerMessage_ = XCB_ATOM_NONE;
     xcb_window_t manager_ = XCB_WINDOW_NONE;

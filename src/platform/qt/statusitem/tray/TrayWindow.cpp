@@ -13,8 +13,8 @@
 
 #include "platform/qt/drawing/RenderImage.h"
 #include "platform/qt/statusitem/PanelPixels.h"
-#include "platform/qt/statusitem/X11.h"
 #include "platform/qt/statusitem/tray/TrayLayout.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -35,7 +35,7 @@ const Event& as(const xcb_generic_event_t& event) {
 
 }  // namespace
 
-TrayWindow::TrayWindow(TrayConnection& connection, xcb_window_t manager, const TrayHints& hints,
+TrayWindow::TrayWindow(X11Client& connection, xcb_window_t manager, const TrayHints& hints,
                        Handlers handlers)
     : connection_(connection), hints_(hints), handlers_(std::move(handlers)) {
     xcb_connection_t* const x = connection_.get();
@@ -153,6 +153,13 @@ void TrayWindow::handle(const xcb_generic_event_t& event) {
                 handlers_.lost();
             }
             break;
+        default:
+            handlePointer(event);
+    }
+}
+
+void TrayWindow::handlePointer(const xcb_generic_event_t& event) {
+    switch (event.response_type & 0x7f) {
         case XCB_BUTTON_PRESS:
             if (const auto& press = as<xcb_button_press_event_t>(event);
                 press.event == window_ && press.detail <= XCB_BUTTON_INDEX_3) {  // no scrolling
@@ -223,23 +230,29 @@ const QImage& TrayWindow::background() {
                                 xcb_get_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, window_, 0, 0,
                                               extent(size_.width()), extent(size_.height()), ~0U),
                                 nullptr));
-        background_ = QImage(size_, QImage::Format_RGB32);
-        background_.fill(Qt::black);
-        const auto bytes = static_cast<std::size_t>(background_.sizeInBytes());
+        QImage image(size_, QImage::Format_RGB32);
+        const auto bytes = static_cast<std::size_t>(image.sizeInBytes());
         if (seen && static_cast<std::size_t>(xcb_get_image_data_length(seen.get())) >= bytes) {
-            std::memcpy(background_.bits(), xcb_get_image_data(seen.get()), bytes);
+            std::memcpy(image.bits(), xcb_get_image_data(seen.get()), bytes);
+            background_ = std::move(image);
         }
     }
     return background_;
 }
 
 void TrayWindow::paint() {
-    if (!isDocked_ || !image_.wide.drawingHandler) {
+    // No tray is larger, and no request to the server holds more than four million pixels.
+    constexpr int largest = 1024;
+    if (!isDocked_ || !image_.wide.drawingHandler || size_.width() > largest ||
+        size_.height() > largest) {
         return;
     }
     QImage pixels = picture();
     if (!hints_.hasAlpha()) {
         QImage opaque = background();
+        if (opaque.isNull()) {
+            return;  // partly off the screen, as in a panel that hides itself: it is exposed later
+        }
         QPainter(&opaque).drawImage(0, 0, pixels);
         pixels = std::move(opaque);
     }

@@ -11,8 +11,8 @@
 #include <optional>
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/tray/TrayConnection.h"
 #include "platform/qt/statusitem/tray/TrayHints.h"
+#include "platform/qt/x11/X11Client.h"
 
 namespace zephrine {
 
@@ -26,7 +26,7 @@ public:
     };
 
     /// Asks `manager`, the tray's window, to take it in. `connection` outlives it.
-    TrayWindow(TrayConnection& connection, xcb_window_t manager, const TrayHints& hints,
+    TrayWindow(X11Client& connection, xcb_window_t manager, const TrayHints& hints,
                Handlers handlers);
     ~TrayWindow();
     Q_DISABLE_COPY_MOVE(TrayWindow)
@@ -35,7 +35,6 @@ public:
     /// Events of other windows are ignored.
     void handle(const xcb_generic_event_t& event);
 
-    [[nodiscard]] bool isDocked() const { return isDocked_; }
     [[nodiscard]] xcb_window_t id() const { return window_; }
     [[nodiscard]] QSize size() const { return size_; }
     /// How the tray behind the item looks; absent when it cannot be read.
@@ -45,14 +44,15 @@ private:
     void tellEmbedder();
     void requestDock(xcb_window_t manager);
     void askForSize();
+    void handlePointer(const xcb_generic_event_t& event);
     void paint();
     [[nodiscard]] QImage picture() const;
-    /// What is behind the window, read from the screen.
+    /// What is behind the window, read from the screen; null when it cannot be read.
     [[nodiscard]] const QImage& background();
     void reparented(xcb_window_t parent);
     void resized(QSize size);
 
-    TrayConnection& connection_;
+    X11Client& connection_;
     TrayHints hints_;
     Handlers handlers_;
     xcb_window_t window_ = XCB_WINDOW_NONE;

@@ -1,0 +1,49 @@
+# SPDX-License-Identifier: MIT
+"""The strip that stands in for the status item where no panel shows items, as a user finds it."""
+import contextlib
+import sys
+
+import full_screen
+from desktop import wait_until
+from program import strip
+
+
+def wait_for_strip(desktop, process):
+    return wait_until(lambda: strip(desktop, process), 10, "the strip")
+
+
+def middle(window):
+    _, x, y, width, height = window
+    return x + width // 2, y + height // 2
+
+
+def drag(desktop, start_point, end_point):
+    steps = 5
+    desktop.run("xdotool", "mousemove", *map(str, start_point))
+    desktop.run("xdotool", "mousedown", "1")
+    for step in range(1, steps + 1):
+        point = [a + (b - a) * step // steps for a, b in zip(start_point, end_point)]
+        desktop.run("xdotool", "mousemove", *map(str, point))
+    desktop.run("xdotool", "mouseup", "1")
+
+
+def is_seen(desktop, window):
+    """Whether the picture of the strip is on the screen: it has text and a dot."""
+    _, x, y, width, height = window
+    return len(desktop.picture((x, y, x + width, y + height)).getcolors(10000)) > 3
+
+
+@contextlib.contextmanager
+def film(desktop):
+    """A window over the whole screen, all of one colour."""
+    process = desktop.start(sys.executable, full_screen.__file__)
+    yield
+    process.kill()
+    process.wait()
+
+
+def covers(desktop, window):
+    """Whether a film is where the strip would be, and nothing of the strip."""
+    _, x, y, width, height = window
+    colours = desktop.picture((x, y, x + width, y + height)).getcolors(10000)
+    return [colour for _, colour in colours] == [full_screen.GREEN]
