@@ -101,8 +101,8 @@ def lxqt(desktop, edge="bottom", colour="#e8e8e8", monitor=0):
     """The panel of LXQt along a whole edge of the monitor of that number."""
     folder = desktop.config / "lxqt"
     folder.mkdir(exist_ok=True)
-    (folder / "panel.conf").write_text(
-        filled(LXQT_PANEL, edge=edge.capitalize(), colour=colour, monitor=monitor), encoding="utf-8")
+    text = filled(LXQT_PANEL, edge=edge.capitalize(), colour=colour, monitor=monitor)
+    (folder / "panel.conf").write_text(text, encoding="utf-8")
     panel = desktop.start("lxqt-panel", environment={"QT_QPA_PLATFORM": "xcb"})
     wait_for_watcher(desktop)
     return panel

@@ -31,6 +31,13 @@ TEST(TrayLayout, TakesTheSquareBeforeTheTextGetsTooSmall) {
     EXPECT_EQ(layOutInTray({72, 24}, wide, 2), (TrayLayout{.side = 24, .corner = {24, 0}}));
 }
 
+TEST(TrayLayout, KnowsWhichTraysAreTooLowForTheWidePicture) {
+    EXPECT_TRUE(isHighEnoughForWide(21, {75, 24}, 1));
+    EXPECT_FALSE(isHighEnoughForWide(20, {75, 24}, 1));
+    EXPECT_FALSE(isHighEnoughForWide(26, {75, 24}, 1.25));
+    EXPECT_TRUE(isHighEnoughForWide(42, {75, 24}, 2));
+}
+
 TEST(TrayLayout, StandsInTheMiddleOfATallWindow) {
     EXPECT_EQ(layOutInTray({24, 60}, wide, 1), (TrayLayout{.side = 24, .corner = {0, 18}}));
 }

@@ -19,6 +19,10 @@ int centred(int length, double part) {
 
 }  // namespace
 
+bool isHighEnoughForWide(int height, Size wide, double density) {
+    return height / wide.height >= kSmallest * density;
+}
+
 TrayLayout layOutInTray(QSize window, Size wide, double density) {
     const double fitting = std::min(window.width() / wide.width, window.height() / wide.height);
     if (fitting >= kSmallest * density) {

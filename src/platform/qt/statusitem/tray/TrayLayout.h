@@ -18,6 +18,9 @@ struct TrayLayout {
     bool operator==(const TrayLayout&) const = default;
 };
 
+/// Whether the wide picture is legible in a tray of this height in device pixels, given the width.
+bool isHighEnoughForWide(int height, Size wide, double density);
+
 /// `window` is in device pixels and `wide` in points; `density` is the desktop's device pixels per
 /// point, which the wide picture never exceeds.
 TrayLayout layOutInTray(QSize window, Size wide, double density);

@@ -104,7 +104,8 @@ void TrayWindow::setPicture(const StatusItemImage& image, Appearance appearance,
 
 void TrayWindow::askForSize() {
     const Size wide = image_.wide.size;
-    const double width = hints_.isVertical ? wide.height : wide.width;
+    const bool isTooLow = isDocked_ && !isHighEnoughForWide(size_.height(), wide, density_);
+    const double width = hints_.isVertical || isTooLow ? wide.height : wide.width;
     const QSize wanted(static_cast<int>(std::ceil(width * density_)),
                        static_cast<int>(std::ceil(wide.height * density_)));
     if (std::exchange(asked_, wanted) == wanted) {
@@ -192,6 +193,9 @@ void TrayWindow::resized(QSize size) {
     if (std::exchange(size_, size) != size) {
         background_ = {};
         painted_ = {};
+        if (image_.wide.drawingHandler) {
+            askForSize();
+        }
         paint();
         if (isDocked_) {
             handlers_.placed();
