@@ -32,7 +32,7 @@ SETTLE = 4  # s
 
 
 def main(program, *names):
-    print("                     program      panel          X server       on the bus, a second")
+    print("                       program      panel          X server       on the bus, a second")
     for name in names:
         measure_host(program, name)
 
@@ -62,7 +62,7 @@ def measure_host(program, name):
 
 def line(name, kind, spent, idle, messages):
     """`spent` and `idle` are in ms a second."""
-    cells = [f"{name:8}{kind:10}{spent['program']:6.2f} ms/s"]
+    cells = [f"{name:10}{kind:10}{spent['program']:6.2f} ms/s"]
     cells += [f"{spent[who]:6.2f} ({idle[who]:.2f})" for who in ("panel", "server")]
     cells.append(f"{len(messages) / SECONDS:.2f} messages, "
                  f"{sum(size for _, size in messages) / SECONDS:.0f} bytes")
