@@ -93,8 +93,12 @@ def xfce(desktop, edge="top", centred=False, x=0):
 
 
 def set_xfce_panel_dark(desktop, dark):
-    desktop.run("xfconf-query", "--channel", "xfce4-panel", "--property", "/panels/dark-mode",
-                "--set", "true" if dark else "false")
+    """By its background, which is the panel's own. The choice of a dark mode is its theme's."""
+    shade = ["--type", "double", "--set", "0.13" if dark else "0.96"]
+    for name, value in {"background-rgba": [*shade * 3, "--type", "double", "--set", "1"],
+                        "background-style": ["--type", "uint", "--set", "1"]}.items():
+        desktop.run("xfconf-query", "--channel", "xfce4-panel", "--property",
+                    f"/panels/panel-1/{name}", "--create", *value)
 
 
 def lxqt(desktop, edge="bottom", colour="#e8e8e8", monitor=0):

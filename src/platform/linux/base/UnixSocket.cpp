@@ -29,7 +29,7 @@ std::optional<sockaddr_un> addressOf(const std::string& path) {
 FileDescriptor connectToSocket(const std::string& path, int type) {
     const auto address = addressOf(path);
     FileDescriptor socket(::socket(AF_UNIX, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-    // Nothing here waits: a listener whose queue is full counts as nobody.
+    // Nothing here waits, not even for room in a listener's queue.
     const bool connected =
         address &&
         ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&*address), sizeof *address) == 0;
@@ -37,7 +37,8 @@ FileDescriptor connectToSocket(const std::string& path, int type) {
 }
 
 FileDescriptor listenAtSocket(const std::string& path, int type) {
-    constexpr int kLongestQueue = 8;
+    // As long as the kernel allows: whoever starts up slowly may be asked by many until then.
+    constexpr int kLongestQueue = SOMAXCONN;
     const auto address = addressOf(path);
     FileDescriptor socket(::socket(AF_UNIX, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     const bool listening =

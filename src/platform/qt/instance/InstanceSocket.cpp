@@ -101,7 +101,9 @@ bool InstanceSocket::claim(const std::string& path) {
     // Two that start at the same time come here one after the other.
     const FileDescriptor lock(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     ::flock(lock.get(), LOCK_EX);
-    if (connectToSocket(path, SOCK_SEQPACKET)) {
+    errno = 0;
+    const bool somebodyListens = connectToSocket(path, SOCK_SEQPACKET) || errno == EAGAIN;
+    if (somebodyListens) {
         return false;
     }
     ::unlink(path.c_str());
@@ -116,7 +118,7 @@ bool InstanceSocket::claim(const std::string& path) {
 }
 
 void InstanceSocket::accept() {
-    constexpr qsizetype kMost = 8;
+    constexpr qsizetype kMost = 32;  // several of a session that starts all at once among them
     const auto peer = std::make_shared<const FileDescriptor>(
         ::accept4(listener_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
     if (!*peer || !isPeerOf(*peer, user_) || conversations_.children().size() >= kMost) {

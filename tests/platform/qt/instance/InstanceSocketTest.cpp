@@ -97,6 +97,16 @@ TEST_F(InstanceSocketTest, GivesThePlaceToOneInstance) {
     EXPECT_FALSE(second.claim(path));
 }
 
+TEST_F(InstanceSocketTest, KeepsItsPlaceHoweverManyWaitForIt) {
+    ASSERT_TRUE(first.claim(path));
+    std::vector<FileDescriptor> waiting;
+    while (waiting.empty() || (waiting.back() && waiting.size() < 100)) {
+        waiting.push_back(connect());
+    }
+    InstanceSocket second([](auto) { FAIL(); });
+    EXPECT_FALSE(second.claim(path));
+}
+
 TEST_F(InstanceSocketTest, TakesThePlaceOfOneThatCrashed) {
     ASSERT_EQ(::mkdir((folder.path().toStdString() + "/zephrine").c_str(), S_IRWXU), 0);
     // A crash closes the socket, but its name stays.
@@ -146,7 +156,7 @@ TEST_F(InstanceSocketTest, GetsOverClientsThatGoAwayOrSayNothing) {
 TEST_F(InstanceSocketTest, TalksToNoMoreThanAFewAtATime) {
     ASSERT_TRUE(first.claim(path));
     std::vector<FileDescriptor> silent;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 32; ++i) {
         silent.push_back(connect());
         QCoreApplication::processEvents();
     }
