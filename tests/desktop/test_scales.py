@@ -23,9 +23,9 @@ SCALES = (1, 1.25, 1.5, 2)
 SCALABLE = {"none": (None, SCALES), "lxqt": ("QT_SCALE_FACTOR", SCALES),
             "xfce": ("GDK_SCALE", (1, 2)), "mate": ("GDK_SCALE", (1, 2))}
 SHORT = {"none": (1.25,), "lxqt": (1.5,), "xfce": (2,)}
-# What was seen of text that was drawn at its size, 0.92 and more, and of text made larger by a
+# What was seen of text that was drawn at its size, 0.85 and more, and of text made larger by a
 # quarter or by half, 0.78 and less. MATE gives items two pixels less than the panel has.
-SHARP = {"none": 0.87, "lxqt": 0.87, "xfce": 0.87, "mate": 0.7}
+SHARP = {"none": 0.82, "lxqt": 0.82, "xfce": 0.82, "mate": 0.7}
 # Likewise of text made larger by a quarter, pixel for pixel; else no two rows are the same.
 REPETITIVE = 0.1
 # Where the clock begins, which changes when it pleases.
