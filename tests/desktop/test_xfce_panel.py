@@ -112,13 +112,15 @@ def size_in_tray(desktop):
 
 
 def take_the_tray(desktop):
-    """Makes this process the tray of the display, for as long as the display is there."""
+    """Takes the tray of the display from the panel, for as long as the display is there. Waits
+    until the panel has it, which comes after the watcher on the bus: else it would take it back."""
     x11 = ctypes.CDLL("libX11.so.6")
     x11.XOpenDisplay.restype = ctypes.c_void_p
     display = ctypes.c_void_p(x11.XOpenDisplay(desktop.display.encode()))
     root = x11.XDefaultRootWindow(display)
     window = x11.XCreateSimpleWindow(display, root, 0, 0, 1, 1, 0, 0, 0)
     tray = x11.XInternAtom(display, b"_NET_SYSTEM_TRAY_S0", False)
+    wait_until(lambda: x11.XGetSelectionOwner(display, tray), 10, "the panel's tray")
     x11.XSetSelectionOwner(display, tray, window, 0)
     x11.XSync(display, False)
 
