@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The state machine. A watcher is asked three things in turn: whose process it is (so that the
-// right pictures are ready), to take the item, and whether any panel shows its items.
+// right pictures are ready), whether any panel shows its items, and to take the item. In this
+// order, since some panels never show an item that came to the watcher while they looked at what it
+// had.
 #include "platform/qt/statusitem/HostWatcher.h"
 
 #include <utility>
@@ -26,7 +28,7 @@ void HostWatcher::watcherOwnerChanged(const QString& owner) {
     }
     owner_ = owner;
     ++generation_;
-    registered_ = false;
+    registration_ = Registration::none;
     hasHost_ = false;
     isHeldBack_ = false;
     if (std::exchange(process_, std::nullopt)) {
@@ -45,10 +47,8 @@ void HostWatcher::watcherOwnerChanged(const QString& owner) {
 }
 
 void HostWatcher::hostsChanged() {
-    if (registered_) {
+    if (process_ && !isHeldBack_) {
         askForHost();
-    } else if (process_ && !isHeldBack_) {
-        registerItem();
     }
 }
 
@@ -60,14 +60,14 @@ void HostWatcher::setWanted(bool wanted) {
     isWanted_ = wanted;
     if (isWanted_ && std::exchange(isHeldBack_, false)) {
         setPresence(Presence::unknown);
-        registerItem();
+        askForHost();
         update();
     }
 }
 
 void HostWatcher::offerItem() {
     if (isWanted_) {
-        registerItem();
+        askForHost();
     } else {
         isHeldBack_ = true;
         missPanel();
@@ -81,25 +81,26 @@ void HostWatcher::missPanel() {
     setPresence(Presence::absent);
 }
 
-void HostWatcher::registerItem() {
-    bus_.registerItem(owner_, ifCurrent<bool>([this](bool registered) {
-                          registered_ = registered;
-                          if (registered) {
-                              askForHost();
-                          }
-                          update();
-                      }));
-}
-
 void HostWatcher::askForHost() {
     bus_.askForHost(owner_, ifCurrent<bool>([this](bool hasHost) {
                         hasHost_ = hasHost;
+                        if (hasHost && registration_ == Registration::none) {
+                            registerItem();
+                        }
                         update();
                     }));
 }
 
+void HostWatcher::registerItem() {
+    registration_ = Registration::asked;
+    bus_.registerItem(owner_, ifCurrent<bool>([this](bool registered) {
+                          registration_ = registered ? Registration::done : Registration::none;
+                          update();
+                      }));
+}
+
 void HostWatcher::update() {
-    if (registered_ && hasHost_) {
+    if (registration_ == Registration::done && hasHost_) {
         delay_.stop();
         waiting_ = false;
         setPresence(Presence::present);

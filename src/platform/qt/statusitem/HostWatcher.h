@@ -35,10 +35,12 @@ public:
     [[nodiscard]] const std::optional<HostProcess>& process() const { return process_; }
 
 private:
+    enum class Registration { none, asked, done };
+
     void offerItem();
     void missPanel();
-    void registerItem();
     void askForHost();
+    void registerItem();
     void update();
     void setPresence(Presence presence);
     /// Runs `next` with an answer, unless the watcher is another by then.
@@ -54,7 +56,7 @@ private:
     bool isWanted_ = true;
     bool isHeldBack_ = false;  ///< from the panel that there is
     bool answered_ = false;
-    bool registered_ = false;
+    Registration registration_ = Registration::none;
     bool hasHost_ = false;
     bool waiting_ = false;
     unsigned generation_ = 0;

@@ -63,8 +63,8 @@ protected:
 
     void answerAll(const char* command = "panel-1-systray") {
         answerNext(bus.identifications, HostProcess{42, command});
-        answerNext(bus.registrations, true);
         answerNext(bus.hostQuestions, true);
+        answerNext(bus.registrations, true);
     }
     void startWithPanel() {
         watcher.start(true);
@@ -96,9 +96,9 @@ TEST_F(HostWatch, FindsThePanelOnceItHasTakenTheItemAndShowsItems) {
     watcher.watcherOwnerChanged(":1.5");
     EXPECT_EQ(bus.lastOwner, ":1.5");
     answerNext(bus.identifications, HostProcess{42, "waybar"});
-    answerNext(bus.registrations, true);
-    EXPECT_EQ(watcher.presence(), Presence::unknown);
     answerNext(bus.hostQuestions, true);
+    EXPECT_EQ(watcher.presence(), Presence::unknown);
+    answerNext(bus.registrations, true);
     EXPECT_EQ(watcher.presence(), Presence::present);
     ASSERT_TRUE(watcher.process());
     EXPECT_EQ(watcher.process()->command, "waybar");
@@ -109,11 +109,38 @@ TEST_F(HostWatch, KnowsTheProcessBeforeItRegistersTheItem) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");
     watcher.hostsChanged();
-    EXPECT_TRUE(bus.registrations.empty());
+    EXPECT_TRUE(bus.hostQuestions.empty());
     answerNext(bus.identifications, HostProcess{42, "waybar"});
     EXPECT_TRUE(watcher.process());
     EXPECT_EQ(changes, 1);
+    answerNext(bus.hostQuestions, true);
     EXPECT_EQ(bus.registrations.size(), 1U);
+}
+
+TEST_F(HostWatch, RegistersTheItemOnceThereIsAPanelToShowIt) {
+    watcher.start(true);
+    watcher.watcherOwnerChanged(":1.5");
+    answerNext(bus.identifications, HostProcess{42, "waybar"});
+    answerNext(bus.hostQuestions, false);
+    EXPECT_TRUE(bus.registrations.empty()) << "the panel may be about to look at what there is";
+    watcher.hostsChanged();
+    watcher.hostsChanged();
+    answerNext(bus.hostQuestions, true);
+    answerNext(bus.hostQuestions, true);
+    EXPECT_EQ(bus.registrations.size(), 1U) << "once";
+}
+
+TEST_F(HostWatch, MissesAPanelThatLeavesItsWatcherBehind) {
+    startWithPanel();
+    watcher.hostsChanged();
+    answerNext(bus.hostQuestions, false);
+    EXPECT_EQ(watcher.presence(), Presence::present);
+    delay.elapse();
+    EXPECT_EQ(watcher.presence(), Presence::absent);
+    watcher.hostsChanged();
+    answerNext(bus.hostQuestions, true);
+    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_TRUE(bus.registrations.empty()) << "the watcher has it";
 }
 
 TEST_F(HostWatch, GivesUpOnAWatcherThatNeverAnswers) {
@@ -134,8 +161,8 @@ TEST_F(HostWatch, GivesUpOnAWatcherThatRefusesTheItem) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "odd"});
+    answerNext(bus.hostQuestions, true);
     answerNext(bus.registrations, false);
-    EXPECT_TRUE(bus.hostQuestions.empty());
     delay.elapse();
     EXPECT_EQ(watcher.presence(), Presence::absent);
 }
@@ -144,23 +171,24 @@ TEST_F(HostWatch, GivesUpOnAWatcherWithoutAPanel) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "kded5"});
-    answerNext(bus.registrations, true);
     answerNext(bus.hostQuestions, false);
     delay.elapse();
     EXPECT_EQ(watcher.presence(), Presence::absent);
     watcher.hostsChanged();
     answerNext(bus.hostQuestions, true);
+    answerNext(bus.registrations, true);
     EXPECT_EQ(watcher.presence(), Presence::present);
 }
 
-TEST_F(HostWatch, TriesAgainWithAWatcherThatRefusedTheItemBeforeItHadAPanel) {
+TEST_F(HostWatch, TriesAgainWithAWatcherThatRefusedTheItemAndHasAnotherPanel) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "odd"});
+    answerNext(bus.hostQuestions, true);
     answerNext(bus.registrations, false);
     watcher.hostsChanged();
-    answerNext(bus.registrations, true);
     answerNext(bus.hostQuestions, true);
+    answerNext(bus.registrations, true);
     EXPECT_EQ(watcher.presence(), Presence::present);
 }
 
@@ -197,8 +225,8 @@ TEST_F(HostWatch, DoesNotBelieveAnswersOfAFormerWatcher) {
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "old"});
     watcher.watcherOwnerChanged(":1.9");
-    answerNext(bus.registrations, true);  // the old one's
-    EXPECT_TRUE(bus.hostQuestions.empty());
+    answerNext(bus.hostQuestions, true);  // the old one's
+    EXPECT_TRUE(bus.registrations.empty());
     answerNext(bus.identifications, HostProcess{43, "new"});
     EXPECT_EQ(watcher.process()->command, "new");
     EXPECT_EQ(watcher.presence(), Presence::unknown);
@@ -249,8 +277,8 @@ TEST_F(HostWatch, OffersTheItemThatItHeldBack) {
     answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
     watcher.setWanted(true);
     EXPECT_EQ(watcher.presence(), Presence::unknown);
-    answerNext(bus.registrations, true);
     answerNext(bus.hostQuestions, true);
+    answerNext(bus.registrations, true);
     EXPECT_EQ(watcher.presence(), Presence::present);
 }
 
