@@ -22,6 +22,9 @@ namespace {
 
 // For a tray that was asked to take the item in, or to come back after it has gone.
 constexpr std::chrono::seconds kPatience{3};
+// Before a tray is asked again that has put the item out. Some do so while they make their own
+// window anew; one that does not want the item is not to be pestered.
+constexpr std::chrono::milliseconds kPause{500};
 
 }  // namespace
 
@@ -29,6 +32,9 @@ TrayItem::TrayItem() {
     patience_.setSingleShot(true);
     patience_.setInterval(kPatience);
     patience_.callOnTimeout([this] { setPresence(Presence::absent); });
+    pause_.setSingleShot(true);
+    pause_.setInterval(kPause);
+    pause_.callOnTimeout([this] { findManager(); });
     rest_.setSingleShot(true);
     rest_.setInterval(QApplication::style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay));
     rest_.callOnTimeout([this] { QToolTip::showText(QCursor::pos(), toolTip_); });
@@ -43,6 +49,7 @@ void TrayItem::setWanted(bool wanted) {
         manager_ = XCB_WINDOW_NONE;
         connection_.reset();
         patience_.stop();
+        pause_.stop();
         setPresence(Presence::absent);
         return;
     }
@@ -69,8 +76,15 @@ void TrayItem::setPicture(const StatusItemImage& image, Appearance appearance) {
     image_ = image;
     appearance_ = appearance;
     if (window_) {
-        window_->setPicture(image_, appearance_, QApplication::primaryScreen()->devicePixelRatio());
+        window_->setPicture(image_, appearance_, density());
     }
+}
+
+/// Device pixels per point on the screen of the tray; of the primary one until that is known.
+double TrayItem::density() const {
+    const auto at = place();
+    const QScreen* const screen = at ? QGuiApplication::screenAt(at->center()) : nullptr;
+    return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->devicePixelRatio();
 }
 
 std::optional<QRect> TrayItem::place() const {
@@ -140,17 +154,12 @@ void TrayItem::dockWith(xcb_window_t manager) {
     patience_.start();
     window_ = std::make_unique<TrayWindow>(
         *connection_, manager, *hints_,
-        TrayWindow::Handlers{.placed =
-                                 [this] {
-                                     patience_.stop();
-                                     setPresence(Presence::docked);
-                                     Q_EMIT placeChanged();
-                                 },
+        TrayWindow::Handlers{.placed = [this] { placed(); },
+                             // It is in the middle of one of its own operations.
                              .lost =
                                  [this] {
-                                     // It is in the middle of one of its own operations.
                                      QMetaObject::invokeMethod(
-                                         this, [this] { leaveTray(); }, Qt::QueuedConnection);
+                                         this, [this] { lost(); }, Qt::QueuedConnection);
                                  },
                              .clicked =
                                  [this] {
@@ -159,6 +168,20 @@ void TrayItem::dockWith(xcb_window_t manager) {
                                  },
                              .hovered = [this](bool isOver) { hovered(isOver); }});
     setPicture(image_, appearance_);
+}
+
+void TrayItem::placed() {
+    patience_.stop();
+    setPresence(Presence::docked);
+    setPicture(image_, appearance_);  // the tray may stand on a screen of another density
+    Q_EMIT placeChanged();
+}
+
+void TrayItem::lost() {
+    leaveTray();
+    if (connection_) {
+        pause_.start();
+    }
 }
 
 void TrayItem::leaveTray() {

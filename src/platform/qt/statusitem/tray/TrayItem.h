@@ -52,8 +52,11 @@ private:
     void hovered(bool isOver);
     void findManager();
     void dockWith(xcb_window_t manager);
+    void placed();
+    void lost();
     void leaveTray();
     void setPresence(Presence presence);
+    [[nodiscard]] double density() const;
 
     std::unique_ptr<X11Client> connection_;  // only while it is wanted
     xcb_atom_t selection_ = XCB_ATOM_NONE;
@@ -62,7 +65,8 @@ private:
     std::optional<TrayHints> hints_;  ///< the manager's
     std::unique_ptr<TrayWindow> window_;
     QTimer patience_;
-    QTimer rest_;  ///< of the pointer, until the tip is shown
+    QTimer pause_;  ///< before the tray is asked again
+    QTimer rest_;   ///< of the pointer, until the tip is shown
     QString toolTip_;
     StatusItemImage image_;
     Appearance appearance_ = Appearance::aqua;
