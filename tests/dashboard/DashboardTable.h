@@ -36,6 +36,7 @@ inline DashboardElement plain(const Rect& frame, std::string text, const Font& f
     return {.kind = "label", .frame = frame, .text = std::move(text), .font = font, .color = color};
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table, and nothing else
 inline std::vector<DashboardElement> dashboardTable() {
     using enum FontWeight;
     const auto secondary = Color::secondaryLabelColor;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 
 #include "fakes/FakeDrawing.h"
@@ -40,7 +41,7 @@ TEST_F(HistoryViewTest, DrawsOnlyTheGridForFewerThanTwoSamples) {
         view.setSamples(std::vector<HistorySample>(count, cpuAt(0, 50)));
         const auto context = drawn();
         ASSERT_EQ(context.strokes.size(), 3U);
-        const double heights[] = {2, 53, 104};
+        const std::array<double, 3> heights{2, 53, 104};
         for (std::size_t i = 0; i < 3; ++i) {
             const Path& line = context.strokes[i].path;
             EXPECT_EQ(line.elements(),
@@ -57,7 +58,7 @@ TEST_F(HistoryViewTest, DrawsTheSeriesOverTheGridWithTheGPUOnTop) {
         {{.time = 0, .cpu = 1, .ram = 2, .gpu = 3}, {.time = 300, .cpu = 1, .ram = 2, .gpu = 3}});
     const auto context = drawn();
     ASSERT_EQ(context.strokes.size(), 6U);
-    const Color colors[] = {Color::systemBlueColor, Color::systemGreenColor,
+    const std::array colors{Color::systemBlueColor, Color::systemGreenColor,
                             Color::systemPurpleColor};
     for (std::size_t i = 0; i < 3; ++i) {
         EXPECT_EQ(context.strokes[3 + i].color, colors[i]);

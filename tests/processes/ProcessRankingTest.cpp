@@ -23,6 +23,7 @@ protected:
 
     static std::vector<std::string> texts(const std::vector<std::unique_ptr<Label>>& labels) {
         std::vector<std::string> all;
+        all.reserve(labels.size());
         for (const auto& label : labels) {
             all.push_back(label->stringValue());
         }

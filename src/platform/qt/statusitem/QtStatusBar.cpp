@@ -8,9 +8,9 @@
 
 namespace zephrine {
 
-QtStatusBar::QtStatusBar(const StatusItemServices& services, QString busAddress,
+QtStatusBar::QtStatusBar(StatusItemServices services, QString busAddress,
                          std::chrono::milliseconds patience)
-    : services_(services), busAddress_(std::move(busAddress)), patience_(patience) {}
+    : services_(std::move(services)), busAddress_(std::move(busAddress)), patience_(patience) {}
 
 std::unique_ptr<StatusItem> QtStatusBar::statusItemWithLength(double length) {
     return std::make_unique<QtStatusItem>(length, services_, busAddress_, patience_);

@@ -16,7 +16,7 @@ class QtStatusBar final : public StatusBar {
 public:
     /// An empty `busAddress` means the session's bus. The strip appears after `patience` without a
     /// panel.
-    explicit QtStatusBar(const StatusItemServices& services, QString busAddress = {},
+    explicit QtStatusBar(StatusItemServices services, QString busAddress = {},
                          std::chrono::milliseconds patience = std::chrono::seconds(3));
 
     std::unique_ptr<StatusItem> statusItemWithLength(double length) override;

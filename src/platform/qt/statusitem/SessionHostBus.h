@@ -26,11 +26,9 @@ public:
     void registerItem(const QString& owner, std::function<void(bool)> answer) override;
     void askForHost(const QString& owner, std::function<void(bool)> answer) override;
 
-private slots:
-    void hostsChanged();
-    void disconnected();
-
 private:
+    Q_SLOT void hostsChanged();
+    Q_SLOT void disconnected();
     void askForVersion(HostProcess process, std::function<void(HostProcess)> answer);
     void call(const QDBusMessage& message, std::function<void(const QDBusMessage&)> answer);
 

@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <regex>
+#include <string>
 #include <tuple>
 #include <vector>
 
@@ -35,26 +37,23 @@ std::string output(const char* command) {
 
 /// Since 4.0.1 `free` calls used what is not available; before, it left out tmpfs.
 bool isFreeRecent() {
-    int major = 0;
-    int minor = 0;
-    int patch = 0;
+    const std::regex name("free from procps-ng (\\d+)\\.(\\d+)\\.(\\d+)\\s*");
     const std::string version = output("free --version 2>/dev/null");
-    if (std::sscanf(version.c_str(), "free from procps-ng %d.%d.%d", &major, &minor, &patch) != 3) {
-        return false;
-    }
-    return std::tuple(major, minor, patch) >= std::tuple(4, 0, 1);
+    std::smatch numbers;
+    return std::regex_match(version, numbers, name) &&
+           std::tuple(std::stoi(numbers[1]), std::stoi(numbers[2]), std::stoi(numbers[3])) >=
+               std::tuple(4, 0, 1);
 }
 
 double usedByFree() {
-    long long total = 0;
-    long long used = 0;
     const std::string text = output("LC_ALL=C free -b");
-    const std::size_t line = text.find("Mem:");
-    if (line == std::string::npos ||
-        std::sscanf(text.c_str() + line, "Mem: %lld %lld", &total, &used) != 2) {
+    const std::regex totalAndUsed("Mem: +\\d+ +(\\d+)");
+    std::smatch numbers;
+    if (!std::regex_search(text, numbers, totalAndUsed)) {
         ADD_FAILURE() << "cannot read: " << text;
+        return 0;
     }
-    return static_cast<double>(used);
+    return std::stod(numbers[1]);
 }
 
 class FreeAgreement : public ::testing::Test {
@@ -78,7 +77,7 @@ protected:
     /// Both figures are read one after the other, and the machine works on: the best of some tries
     /// tells whether they mean the same.
     void expectAgreement() {
-        double difference = static_cast<double>(total);
+        auto difference = static_cast<double>(total);
         for (int attempt = 0; attempt < 10 && difference > 0.005 * totalBytes(); ++attempt) {
             difference = std::abs(usedHere() - usedByFree());
         }
@@ -86,10 +85,12 @@ protected:
     }
     /// Three times the difference that is tolerated, so that a definition of "used" which forgets
     /// it is found out; less on machines where that would be much.
-    std::size_t load() const { return std::min<std::size_t>(total / 64, std::size_t{512} << 20U); }
+    [[nodiscard]] std::size_t load() const {
+        return std::min<std::size_t>(total / 64, std::size_t{512} << 20U);
+    }
 
     /// Writes the load to `file`. False where there is no room for it.
-    bool fill(int file) const {
+    [[nodiscard]] bool fill(int file) const {
         const std::vector<char> block(std::size_t{1} << 20U, 'x');
         for (std::size_t written = 0; written < load(); written += block.size()) {
             if (::write(file, block.data(), block.size()) != static_cast<ssize_t>(block.size())) {
@@ -99,7 +100,7 @@ protected:
         return true;
     }
 
-    double totalBytes() const { return static_cast<double>(total); }
+    [[nodiscard]] double totalBytes() const { return static_cast<double>(total); }
 
     LinuxHostCounters counters;
     std::uint64_t total = counters.physicalMemory();

@@ -41,10 +41,9 @@ public:
     [[nodiscard]] QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
-private slots:
-    void countSignal(const QDBusMessage& message);
-
 private:
+    Q_SLOT void countSignal(const QDBusMessage& message);
+
     BusPeer peer_;
     Manner manner_;
 };
