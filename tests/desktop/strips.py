@@ -2,6 +2,7 @@
 """The strip that stands in for the status item where no panel shows items, as a user finds it."""
 import contextlib
 import sys
+import time
 
 import full_screen
 from desktop import wait_until
@@ -18,13 +19,15 @@ def middle(window):
 
 
 def drag(desktop, start_point, end_point):
-    steps = 5
-    desktop.run("xdotool", "mousemove", *map(str, start_point))
-    desktop.run("xdotool", "mousedown", "1")
+    """Slowly, since sway tells the strip no more of the pointer once that is no longer on it."""
+    steps = 60
+    desktop.use_input("mousemove", *map(str, start_point))
+    desktop.use_input("mousedown", "1")
     for step in range(1, steps + 1):
         point = [a + (b - a) * step // steps for a, b in zip(start_point, end_point)]
-        desktop.run("xdotool", "mousemove", *map(str, point))
-    desktop.run("xdotool", "mouseup", "1")
+        desktop.use_input("mousemove", *map(str, point))
+        time.sleep(0.02)
+    desktop.use_input("mouseup", "1")
 
 
 def is_seen(desktop, window):

@@ -176,7 +176,7 @@ void QtStatusItemButton::show() {
     if (shown) {
         strip_.setPicture(image_.wide, drawnFor_);
     }
-    if (shown != strip_.isVisible()) {
+    if (shown != strip_.isShown()) {
         strip_.setShown(shown);
         Q_EMIT anchorChanged();
     }

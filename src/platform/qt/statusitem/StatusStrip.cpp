@@ -10,12 +10,14 @@
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/RenderImage.h"
 #include "platform/qt/statusitem/AllDesktops.h"
 #include "platform/qt/statusitem/BelowFullScreen.h"
 #include "platform/qt/statusitem/StripPlace.h"
+#include "platform/qt/sway/SwayConnection.h"
 #include "platform/qt/windows/WorkArea.h"
 #include "platform/qt/windows/X11Windows.h"
 
@@ -49,7 +51,6 @@ StatusStrip::StatusStrip(PreferenceStore& preferences) : preferences_(preference
     setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                    Qt::WindowDoesNotAcceptFocus);
     setAttribute(Qt::WA_ShowWithoutActivating);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
     setWindowTitle("Zephrine");
     for (QScreen* const screen : QGuiApplication::screens()) {
@@ -83,21 +84,43 @@ void StatusStrip::setPicture(const Image& picture, Appearance appearance) {
 }
 
 void StatusStrip::setShown(bool shown) {
-    if (shown == isVisible()) {
+    if (std::exchange(isShown_, shown) == shown) {
         return;
     }
-    if (shown) {
+    fullScreen_.reset();
+    if (const std::string socket = swaySocket(); shown && !socket.empty()) {
+        fullScreen_ = std::make_unique<SwayFullScreen>(socket, [this] { showOrHide(); });
+    }
+    showOrHide();
+}
+
+void StatusStrip::showOrHide() {
+    const double scale = devicePixelRatioF();
+    const QRect pixels(geometry().topLeft() * scale, size() * scale);
+    const bool visible = isShown_ && !(fullScreen_ && fullScreen_->covers(pixels));
+    if (visible == isVisible()) {
+        return;
+    }
+    if (visible) {
         takePlace();
-        winId();  // makes the window, which window managers look at when it appears
-        keepOutOfTaskBar(*windowHandle());
-        showOnAllDesktops(*windowHandle());
-        stayBelowFullScreen(*windowHandle());
-        connect(windowHandle(), &QWindow::screenChanged, this, &StatusStrip::screenChanged);
+        makeWindow();
         show();
     } else {
         hide();
         destroy();  // the window's place is off in Qt when it is shown a second time
     }
+}
+
+void StatusStrip::makeWindow() {
+    // sway makes windows larger that it manages, and puts them into the middle of the screen.
+    setWindowFlag(Qt::BypassWindowManagerHint, fullScreen_ != nullptr);
+    setAttribute(Qt::WA_TranslucentBackground, isComposited());
+    cutShape();
+    winId();  // makes the window, which window managers look at when it appears
+    keepOutOfTaskBar(*windowHandle());
+    showOnAllDesktops(*windowHandle());
+    stayBelowFullScreen(*windowHandle());
+    connect(windowHandle(), &QWindow::screenChanged, this, &StatusStrip::screenChanged);
 }
 
 QRect StatusStrip::place() const {
@@ -109,7 +132,9 @@ void StatusStrip::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor border = resolve(Color::quaternaryLabelColor, appearance_);
-    painter.fillRect(rect(), border);  // what the shape leaves of the corners
+    if (!testAttribute(Qt::WA_TranslucentBackground)) {
+        painter.fillRect(rect(), border);  // what the shape leaves of the corners
+    }
     painter.setPen(border);
     painter.setBrush(windowBackground(appearance_));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
@@ -121,8 +146,12 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
     cutShape();
 }
 
+/// Shaped where nothing composes windows, since a translucent one has black corners there.
 void StatusStrip::cutShape() {
-    // A shaped window, since a translucent one has black corners where nothing composes windows.
+    clearMask();  // Qt sends no shape that it has sent before, though in pixels it is another one
+    if (testAttribute(Qt::WA_TranslucentBackground)) {
+        return;
+    }
     QBitmap shape(size());
     shape.clear();
     QPainter painter(&shape);
@@ -130,7 +159,6 @@ void StatusStrip::cutShape() {
     painter.setPen(Qt::color1);
     painter.drawRoundedRect(rect().adjusted(0, 0, -1, -1), kRadius, kRadius);
     painter.end();
-    clearMask();  // Qt sends no shape that it has sent before, though in pixels it is another one
     setMask(shape);
 }
 

@@ -9,11 +9,13 @@
 #include <QPushButton>
 #include <QRect>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "platform/Drawing.h"
 #include "platform/PreferenceStore.h"
+#include "platform/qt/sway/SwayFullScreen.h"
 
 class QScreen;
 
@@ -30,7 +32,9 @@ public:
     void setLength(double length);
     /// Paints only if anything changed. The background fits `appearance`.
     void setPicture(const Image& picture, Appearance appearance);
+    /// Whether it is to be there; behind a window over the whole screen it cannot be seen.
     void setShown(bool shown);
+    [[nodiscard]] bool isShown() const { return isShown_; }
     /// In global logical coordinates; where it is going to be, until the window manager has put it
     /// there.
     [[nodiscard]] QRect place() const;
@@ -48,6 +52,8 @@ private:
         QPoint window;
     };
 
+    void showOrHide();
+    void makeWindow();
     void follow(QScreen* screen);
     void takePlace();
     void fitSize();
@@ -62,6 +68,8 @@ private:
     Appearance appearance_ = Appearance::aqua;
     std::optional<Grip> grip_;
     bool isDragged_ = false;
+    bool isShown_ = false;
+    std::unique_ptr<SwayFullScreen> fullScreen_;  ///< where that is for us to look after
 };
 
 }  // namespace zephrine

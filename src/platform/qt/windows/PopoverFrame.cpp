@@ -18,9 +18,9 @@
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Palette.h"
-#include "platform/qt/windows/SwayPlacement.h"
+#include "platform/qt/sway/SwayConnection.h"
+#include "platform/qt/sway/SwayPlacement.h"
 #include "platform/qt/windows/X11Windows.h"
-#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -89,9 +89,12 @@ void PopoverFrame::adopt(bool composited) {
     setContentSize(contentSize_);
 }
 
-void PopoverFrame::open(QPoint corner) {
+void PopoverFrame::open(QPoint corner, bool isBesideItem) {
     adopt(isComposited());
     moveTo(corner);
+    if (!isBesideItem) {
+        besideItem_.reset();
+    }
     setAttribute(Qt::WA_KeyboardFocusChange, false);
     const bool fades = composited_ && !appearance_.reducesMotion();
     setWindowOpacity(fades ? 0.0 : 1.0);
@@ -104,25 +107,30 @@ void PopoverFrame::open(QPoint corner) {
     if (fades) {
         fade_.start();
     }
-    placeByCompositor(kPlacementAttempts);
+    placeOnSway(kPlacementAttempts);
     holdMouse();
 }
 
 void PopoverFrame::moveTo(QPoint corner) {
+    besideItem_ = corner;
     move(corner - panel().topLeft());
+    placeOnSway(1);
 }
 
-void PopoverFrame::placeByCompositor(int attempts) {
-    const std::string socket = qEnvironmentVariable("SWAYSOCK").toStdString();
-    if (socket.empty() || x11Connection() == nullptr || !isVisible() || attempts == 0) {
+void PopoverFrame::placeOnSway(int attempts) {
+    const std::string socket = swaySocket();
+    if (socket.empty() || !isVisible() || attempts == 0) {
         return;
     }
     const double scale = devicePixelRatio();
     const QRect pixels(panel().topLeft() * scale, panel().size() * scale);
     const auto window = static_cast<std::uint32_t>(winId());
-    if (moveToPointerOnSway(socket, window, pixels) == SwayAnswer::unknownWindow) {
+    const SwayAnswer answer =
+        besideItem_ ? moveOnSway(socket, window, *besideItem_ * scale - pixels.topLeft())
+                    : moveToPointerOnSway(socket, window, pixels);
+    if (answer == SwayAnswer::unknownWindow) {
         QTimer::singleShot(kPlacementInterval, this,
-                           [this, attempts] { placeByCompositor(attempts - 1); });
+                           [this, attempts] { placeOnSway(attempts - 1); });
     }
 }
 

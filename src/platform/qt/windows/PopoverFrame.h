@@ -26,8 +26,11 @@ public:
 
     /// The content and its edge, without the shadow.
     [[nodiscard]] QSize panelSize() const { return panel().size(); }
-    /// Shows the panel with its upper left corner at `corner`, above other windows.
-    void open(QPoint corner);
+    /// Shows the panel with its upper left corner at `corner`, above other windows. Where that is
+    /// not beside the item, since nobody knows where the item is, a compositor that knows where the
+    /// pointer is may move it there.
+    void open(QPoint corner, bool isBesideItem);
+    /// To a corner beside the item.
     void moveTo(QPoint corner);
     /// Hides it because that was asked for.
     void dismiss();
@@ -48,13 +51,14 @@ private:
     [[nodiscard]] QRect panel() const;
     void adopt(bool composited);
     void hideByItself();
-    void placeByCompositor(int attempts);
+    void placeOnSway(int attempts);
 
     const SystemAppearance& appearance_;
     Handlers handlers_;
     ContentHost content_;
     QVariantAnimation fade_;
     QSize contentSize_;
+    std::optional<QPoint> besideItem_;  ///< the corner; absent where the item is nobody knows where
     bool composited_ = false;
     bool hiding_ = false;
 };

@@ -42,7 +42,7 @@ void QtPopover::showRelativeTo(StatusItemButton& button) {
     if (content_ != nullptr) {
         frame_.content().setContent(*content_);
     }
-    frame_.open(cornerBeside(item));
+    frame_.open(cornerBeside(item), item.has_value());
     if (anchor != nullptr) {
         following_ = QObject::connect(anchor, &ItemAnchor::anchorChanged, &frame_, [this, anchor] {
             if (const auto place = anchor->anchorRect()) {

@@ -1,22 +1,16 @@
 // SPDX-License-Identifier: MIT
-// The dialogue with sway: here a thread that answers at a socket, well or badly.
-#include "platform/qt/windows/SwayPlacement.h"
+// The dialogue with sway.
+#include "platform/qt/sway/SwayPlacement.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <sys/socket.h>
 
 #include <QByteArray>
-#include <QTemporaryDir>
-#include <array>
-#include <cstring>
 #include <functional>
 #include <string>
-#include <thread>
 #include <vector>
 
-#include "platform/linux/base/UnixSocket.h"
+#include "platform/qt/sway/FakeSway.h"
 
 namespace zephrine {
 namespace {
@@ -26,17 +20,7 @@ using testing::ElementsAre;
 constexpr std::uint32_t kWindow = 4194310;
 const QRect kPanel(15, 15, 360, 660);
 
-QByteArray reply(std::uint32_t type, const QByteArray& json) {
-    const auto length = static_cast<std::uint32_t>(json.size());
-    QByteArray message("i3-ipc");
-    message.append(reinterpret_cast<const char*>(&length), sizeof length);
-    message.append(reinterpret_cast<const char*>(&type), sizeof type);
-    return message + json;
-}
-
 struct PlacementOnSway : testing::Test {
-    QTemporaryDir folder;
-    const std::string path = folder.path().toStdString() + "/sway";
     QByteArray workspaces =
         R"json([{"focused": true, "rect": {"x": 0, "y": 30, "width": 1000, "height": 730}}])json";
     QByteArray tree = R"json({"nodes": [{"window": 4194310,
@@ -44,46 +28,33 @@ struct PlacementOnSway : testing::Test {
     QByteArray result = R"json([{"success": true}])json";
     SwayAnswer given = SwayAnswer::none;
     std::function<QByteArray(std::uint32_t type)> answer = [this](std::uint32_t type) {
-        return reply(type, type == 1 ? workspaces : type == 4 ? tree : result);
+        return messageOfSway(type, type == 1 ? workspaces : type == 4 ? tree : result);
     };
 
     /// The commands that sway gets when the window is placed.
-    std::vector<std::string> commands() {
+    std::vector<std::string> commands(const std::function<SwayAnswer(const std::string&)>& place =
+                                          [](const std::string& path) {
+                                              return moveToPointerOnSway(path, kWindow, kPanel);
+                                          }) {
         std::vector<std::string> commands;
-        FileDescriptor listener = listenAtSocket(path, SOCK_STREAM);
-        std::thread sway([&] { serve(listener, commands); });
-        given = moveToPointerOnSway(path, kWindow, kPanel);
-        sway.join();
+        FakeSway sway;
+        sway.answer = [&](std::uint32_t type, const QByteArray& payload) {
+            if (!payload.isEmpty()) {
+                commands.push_back(payload.toStdString());
+            }
+            return answer(type);
+        };
+        given = place(sway.path());
+        sway.end();
         return commands;
     }
-
-private:
-    void serve(FileDescriptor& listener, std::vector<std::string>& commands) const {
-        pollfd caller{listener.get(), POLLIN, 0};
-        constexpr int patience = 10000;  // milliseconds: the test has failed by then
-        if (::poll(&caller, 1, patience) != 1) {
-            return;
-        }
-        const FileDescriptor client(::accept(listener.get(), nullptr, nullptr));
-        std::array<char, 14> head{};
-        while (::recv(client.get(), head.data(), head.size(), MSG_WAITALL) ==
-               static_cast<ssize_t>(head.size())) {
-            std::array<std::uint32_t, 2> numbers{};
-            std::memcpy(numbers.data(), head.data() + 6, sizeof numbers);
-            std::string payload(numbers[0], '\0');
-            if (!payload.empty() &&
-                ::recv(client.get(), payload.data(), payload.size(), MSG_WAITALL) > 0) {
-                commands.push_back(payload);
-            }
-            const QByteArray bytes = answer(numbers[1]);
-            if (bytes.isEmpty()) {
-                return;
-            }
-            ::send(client.get(), bytes.data(), static_cast<std::size_t>(bytes.size()),
-                   MSG_NOSIGNAL);
-        }
-    }
 };
+
+TEST_F(PlacementOnSway, IsWhereItIsAskedFor) {
+    const auto place = [](const std::string& path) { return moveOnSway(path, kWindow, {610, -7}); };
+    EXPECT_THAT(commands(place), ElementsAre("[id=4194310] move absolute position 610 px -7 px"));
+    EXPECT_EQ(given, SwayAnswer::moved);
+}
 
 TEST_F(PlacementOnSway, IsAtThePointerAndThenOutsideTheBars) {
     EXPECT_THAT(commands(), ElementsAre("[id=4194310] move position cursor",
@@ -110,8 +81,10 @@ TEST_F(PlacementOnSway, EndsWhereSwayTellsNoPlace) {
 }
 
 TEST_F(PlacementOnSway, EndsWithoutSway) {
-    EXPECT_EQ(moveToPointerOnSway(path, kWindow, kPanel), SwayAnswer::none);
+    const std::string nowhere = QTemporaryDir().path().toStdString() + "/sway";
+    EXPECT_EQ(moveToPointerOnSway(nowhere, kWindow, kPanel), SwayAnswer::none);
     EXPECT_EQ(moveToPointerOnSway({}, kWindow, kPanel), SwayAnswer::none);
+    EXPECT_EQ(moveOnSway({}, kWindow, {}), SwayAnswer::none);
 }
 
 TEST_F(PlacementOnSway, EndsWhenSwayHangsUp) {
@@ -127,14 +100,14 @@ TEST_F(PlacementOnSway, EndsWhenSwaySaysHalfAWord) {
 }
 
 TEST_F(PlacementOnSway, EndsWhenTheAnswerIsToSomethingElse) {
-    answer = [](std::uint32_t type) { return reply(type + 1, "[]"); };
+    answer = [](std::uint32_t type) { return messageOfSway(type + 1, "[]"); };
     EXPECT_THAT(commands(), ElementsAre("[id=4194310] move position cursor"));
     EXPECT_EQ(given, SwayAnswer::none);
 }
 
 TEST_F(PlacementOnSway, EndsWhenTheAnswerSeemsEndless) {
     answer = [](std::uint32_t type) {
-        QByteArray endless = reply(type, {});
+        QByteArray endless = messageOfSway(type, {});
         std::memset(endless.data() + 6, 0xff, sizeof(std::uint32_t));
         return endless;
     };

@@ -4,7 +4,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QRect>
+#include <QString>
 #include <cstdint>
 #include <optional>
 
@@ -18,5 +20,12 @@ namespace zephrine {
 
 /// Where the window of the X server is, from the answer to GET_TREE.
 [[nodiscard]] std::optional<QRect> placeOfWindow(const QByteArray& tree, std::uint32_t window);
+
+/// What windows cover that have a whole screen for themselves and can be seen, from the answer to
+/// GET_TREE.
+[[nodiscard]] QList<QRect> fullScreenAreas(const QByteArray& tree);
+
+/// What has happened to a window or a workspace, as an event of sway names it; empty if nothing.
+[[nodiscard]] QString changeOf(const QByteArray& event);
 
 }  // namespace zephrine

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Each message is a magic word, the length of what follows the head, its type, and JSON or a
 // command; the two numbers are in the machine's own byte order.
-#include "platform/qt/windows/SwayConnection.h"
+#include "platform/qt/sway/SwayConnection.h"
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "platform/linux/base/UnixSocket.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -21,6 +22,7 @@ namespace {
 constexpr std::chrono::milliseconds kPatience{250};
 constexpr std::uint32_t kLongestAnswer = 16U << 20U;  // a tree of many thousand windows
 constexpr std::string_view kMagic = "i3-ipc";
+constexpr std::uint32_t kEvent = 1U << 31U;  // set in the types of what comes unasked
 
 struct Numbers {
     std::uint32_t length;
@@ -38,19 +40,35 @@ Head headOf(Numbers numbers) {
 
 }  // namespace
 
+std::string swaySocket() {
+    return x11Connection() != nullptr ? qEnvironmentVariable("SWAYSOCK").toStdString()
+                                      : std::string();
+}
+
 SwayConnection::SwayConnection(const std::string& path)
     : socket_(connectToSocket(path, SOCK_STREAM)),
       end_(std::chrono::steady_clock::now() + kPatience) {}
 
 std::optional<QByteArray> SwayConnection::ask(Request request, const QByteArray& payload) {
+    return send(request, payload) ? receiveMessage(static_cast<std::uint32_t>(request), ~0U)
+                                  : std::nullopt;
+}
+
+std::optional<QByteArray> SwayConnection::nextEvent() {
+    end_ = std::chrono::steady_clock::now() + kPatience;
+    return receiveMessage(kEvent, kEvent);
+}
+
+/// A message whose type, as far as `mask` goes, is `type`.
+std::optional<QByteArray> SwayConnection::receiveMessage(std::uint32_t type, std::uint32_t mask) {
     Head head{};
-    if (!send(request, payload) || !receive(head)) {
+    if (!receive(head)) {
         return std::nullopt;
     }
     Numbers numbers{};
     std::memcpy(&numbers, head.data() + kMagic.size(), sizeof numbers);
-    if (numbers.length > kLongestAnswer ||
-        head != headOf({numbers.length, static_cast<std::uint32_t>(request)})) {
+    if (numbers.length > kLongestAnswer || head != headOf(numbers) ||
+        (numbers.type & mask) != type) {
         return std::nullopt;
     }
     QByteArray answer(static_cast<qsizetype>(numbers.length), Qt::Uninitialized);

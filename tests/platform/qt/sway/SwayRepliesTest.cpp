@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Answers as sway 1.7 gives them, cut down to what is read, and answers that nobody should give.
-#include "platform/qt/windows/SwayReplies.h"
+#include "platform/qt/sway/SwayReplies.h"
 
 #include <gtest/gtest.h>
 
@@ -38,6 +38,42 @@ TEST(SwayReplies, TellWhereAWindowIs) {
     EXPECT_EQ(placeOfWindow(kTree, 78), std::nullopt);
 }
 
+/// Of one window that has the whole screen: its own type, whether it can be seen, and what it
+/// holds.
+QByteArray treeWithFilm(const char* type, const char* visible, const char* children = "[]") {
+    return QByteArray(R"json({"type": "root", "fullscreen_mode": 0, "nodes": [
+        {"type": "output", "fullscreen_mode": 0, "nodes": [
+          {"type": "workspace", "fullscreen_mode": 1, "nodes": [
+             {"type": "con", "fullscreen_mode": 0, "visible": true,
+              "rect": {"x": 0, "y": 30, "width": 1000, "height": 730}}],
+           "rect": {"x": 0, "y": 30, "width": 1000, "height": 730}, "floating_nodes": [
+             {"type": "TYPE", "fullscreen_mode": 1, "visible": VISIBLE, "nodes": CHILDREN,
+              "rect": {"x": 0, "y": 0, "width": 1000, "height": 760}}]}]}]})json")
+        .replace("TYPE", type)
+        .replace("VISIBLE", visible)
+        .replace("CHILDREN", children);
+}
+
+TEST(SwayReplies, TellWhichWindowsHaveAScreenForThemselves) {
+    const QList<QRect> screen{QRect(0, 0, 1000, 760)};
+    EXPECT_EQ(fullScreenAreas(treeWithFilm("con", "true")), screen);
+    EXPECT_EQ(fullScreenAreas(treeWithFilm("floating_con", "true")), screen);
+    EXPECT_EQ(fullScreenAreas(treeWithFilm("con", "false")), QList<QRect>()) << "elsewhere";
+    EXPECT_EQ(fullScreenAreas(treeWithFilm("workspace", "true")), QList<QRect>());
+    EXPECT_EQ(fullScreenAreas(kTree), QList<QRect>()) << "none at all";
+}
+
+TEST(SwayReplies, CountAGroupOfWindowsAsTheOneThatCanBeSeen) {
+    const char* const tabs = R"json([{"type": "con", "visible": false},
+                                     {"type": "con", "visible": true}])json";
+    EXPECT_EQ(fullScreenAreas(treeWithFilm("con", "null", tabs)).size(), 1);
+}
+
+TEST(SwayReplies, NameWhatHasHappened) {
+    EXPECT_EQ(changeOf(R"json({"change": "title", "container": {}})json"), "title");
+    EXPECT_EQ(changeOf("{}"), "");
+}
+
 TEST(SwayReplies, MayMakeNoSense) {
     for (const char* text : {"", "null", "7", "\"\"", "{}", "[]", "[[]]", "[7]", "{\"nodes\": 7}",
                              "{\"nodes\": [7, null, []]}", "[{\"focused\": true}]",
@@ -45,6 +81,8 @@ TEST(SwayReplies, MayMakeNoSense) {
         EXPECT_FALSE(hasSucceeded(text)) << text;
         EXPECT_EQ(focusedWorkspace(text), std::nullopt) << text;
         EXPECT_EQ(placeOfWindow(text, 77), std::nullopt) << text;
+        EXPECT_EQ(fullScreenAreas(text), QList<QRect>()) << text;
+        EXPECT_EQ(changeOf(text), "") << text;
     }
     for (const char* rect :
          {"{}", "7", R"json({"x": 0, "y": 0, "width": 10})json",

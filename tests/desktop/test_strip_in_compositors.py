@@ -1,13 +1,24 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""The strip on a GNOME without the extension that shows status items, as most are."""
+"""The strip in the session that the environment variable ZEPHRINE_HOST names, without a panel that
+shows status items: in GNOME without its extension, as most are, and in sway without a bar."""
+import os
 import time
 import unittest
 
 import heavy_hosts
+import sway_hosts
 from desktop import wait_until
 from program import DesktopTestCase, click, dashboard, press_keys, start, strip
 from strips import covers, drag, film, is_seen, middle
+
+
+def gnome(desktop):
+    heavy_hosts.gnome(desktop)
+    desktop.run("gsettings", "set", "org.gnome.shell", "enabled-extensions", "[]")
+
+
+SESSIONS = {"gnome": gnome, "sway": sway_hosts.ensure_sway}
 
 
 def seen_strip(desktop, program):
@@ -18,13 +29,16 @@ def seen_strip(desktop, program):
     return None
 
 
-class GnomeStrip(DesktopTestCase):
+class StripInCompositors(DesktopTestCase):
     def test_it_is_there_and_does_what_it_does_elsewhere(self):
         with self.desktop(window_manager=False) as desktop:
-            heavy_hosts.gnome(desktop)
-            desktop.run("gsettings", "set", "org.gnome.shell", "enabled-extensions", "[]")
+            SESSIONS[os.environ["ZEPHRINE_HOST"]](desktop)
             program = start(desktop)
             window = wait_until(lambda: seen_strip(desktop, program), 20, "the strip's picture")
+            with self.subTest("at the top right, and no larger than elsewhere"):
+                _, x, y, width, height = window
+                self.assertEqual((width, height), (80, 28))
+                self.assertTrue(1000 - 40 < x + width <= 1000 and y < 60, window)
 
             with self.subTest("hidden behind a window over the whole screen"):
                 with film(desktop):
@@ -40,8 +54,20 @@ class GnomeStrip(DesktopTestCase):
                 wait_until(lambda: strip(desktop, program)[1:3] == place, 5, "the other place")
 
             with self.subTest("clicked"):
+                _, left, top, width, height = strip(desktop, program)
                 click(desktop, middle(strip(desktop, program)))
-                wait_until(lambda: dashboard(desktop, program), 5, "the dashboard")
+
+                def is_beside():
+                    opened = dashboard(desktop, program)
+                    return opened and (opened[1] + opened[3] < left + 24
+                                       or opened[1] > left + width - 24)
+
+                # There is room neither above it nor below.
+                wait_until(is_beside, 5, "the dashboard beside the strip")
+
+            with self.subTest("clicked again"):
+                click(desktop, middle(strip(desktop, program)))
+                wait_until(lambda: not dashboard(desktop, program), 5, "the dashboard's end")
 
 
 if __name__ == "__main__":

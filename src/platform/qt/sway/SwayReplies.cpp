@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 // JSON from another program: whatever it lacks is absent.
-#include "platform/qt/windows/SwayReplies.h"
+#include "platform/qt/sway/SwayReplies.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <algorithm>
+#include <functional>
 
 namespace zephrine {
 
@@ -33,20 +34,29 @@ std::optional<QRect> rectOf(const QJsonObject& node) {
                : std::nullopt;
 }
 
-/// Qt reads no deeper than 1024 levels, so that neither does this.
-std::optional<QRect> placeIn(const QJsonObject& node, std::uint32_t window) {
-    if (node["window"].toInteger() == qint64{window}) {
-        return rectOf(node);
-    }
+/// Hands over the node and all below it. Qt reads no deeper than 1024 levels, so that neither does
+/// this.
+void visit(const QJsonObject& node, const std::function<void(const QJsonObject&)>& visitor) {
+    visitor(node);
     for (const char* const children : {"nodes", "floating_nodes"}) {
         const QJsonArray nodes = node[QLatin1String(children)].toArray();
         for (const auto& child : nodes) {
-            if (const auto place = placeIn(child.toObject(), window)) {
-                return place;
-            }
+            visit(child.toObject(), visitor);
         }
     }
-    return std::nullopt;
+}
+
+/// Whether any window of the container can be seen.
+bool isVisible(const QJsonObject& container) {
+    bool visible = false;
+    visit(container, [&](const QJsonObject& node) { visible |= node["visible"].toBool(); });
+    return visible;
+}
+
+/// Workspaces and screens are always full-screen to sway.
+bool isContainer(const QJsonObject& node) {
+    const QString type = node["type"].toString();
+    return type == QLatin1String("con") || type == QLatin1String("floating_con");
 }
 
 }  // namespace
@@ -70,7 +80,28 @@ std::optional<QRect> focusedWorkspace(const QByteArray& workspaces) {
 }
 
 std::optional<QRect> placeOfWindow(const QByteArray& tree, std::uint32_t window) {
-    return placeIn(QJsonDocument::fromJson(tree).object(), window);
+    std::optional<QRect> place;
+    visit(QJsonDocument::fromJson(tree).object(), [&](const QJsonObject& node) {
+        if (node["window"].toInteger() == qint64{window}) {
+            place = rectOf(node);
+        }
+    });
+    return place;
+}
+
+QList<QRect> fullScreenAreas(const QByteArray& tree) {
+    QList<QRect> areas;
+    visit(QJsonDocument::fromJson(tree).object(), [&](const QJsonObject& node) {
+        const auto rect = rectOf(node);
+        if (rect && isContainer(node) && node["fullscreen_mode"].toInt() != 0 && isVisible(node)) {
+            areas.append(*rect);
+        }
+    });
+    return areas;
+}
+
+QString changeOf(const QByteArray& event) {
+    return QJsonDocument::fromJson(event).object()["change"].toString();
 }
 
 }  // namespace zephrine

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // In two steps: sway knows where the pointer is, but does not tell, and does not mind its bars.
-#include "platform/qt/windows/SwayPlacement.h"
+#include "platform/qt/sway/SwayPlacement.h"
 
 #include <QByteArray>
 #include <optional>
 
+#include "platform/qt/sway/SwayConnection.h"
+#include "platform/qt/sway/SwayReplies.h"
 #include "platform/qt/windows/PopoverPlacement.h"
-#include "platform/qt/windows/SwayConnection.h"
-#include "platform/qt/windows/SwayReplies.h"
 
 namespace zephrine {
 
@@ -23,7 +23,18 @@ SwayAnswer move(SwayConnection& sway, std::uint32_t window, const QByteArray& pl
                                    : SwayAnswer::unknownWindow;
 }
 
+SwayAnswer move(SwayConnection& sway, std::uint32_t window, QPoint corner) {
+    return move(sway, window,
+                "absolute position " + QByteArray::number(corner.x()) + " px " +
+                    QByteArray::number(corner.y()) + " px");
+}
+
 }  // namespace
+
+SwayAnswer moveOnSway(const std::string& socket, std::uint32_t window, QPoint corner) {
+    SwayConnection sway(socket);
+    return move(sway, window, corner);
+}
 
 SwayAnswer moveToPointerOnSway(const std::string& socket, std::uint32_t window,
                                const QRect& panel) {
@@ -40,10 +51,7 @@ SwayAnswer moveToPointerOnSway(const std::string& socket, std::uint32_t window,
     }
     const QPoint wanted = place->topLeft() + panel.topLeft();
     const QPoint corner = moveInto(*area, wanted, panel.size()) - panel.topLeft();
-    return corner == place->topLeft() ? SwayAnswer::moved
-                                      : move(sway, window,
-                                             "absolute position " + QByteArray::number(corner.x()) +
-                                                 " px " + QByteArray::number(corner.y()) + " px");
+    return corner == place->topLeft() ? SwayAnswer::moved : move(sway, window, corner);
 }
 
 }  // namespace zephrine
