@@ -45,7 +45,7 @@ heavy_panel_packages() {
             plasma) echo plasma-desktop plasma-workspace ;;
             budgie) echo budgie-core ;;
             waybar) echo waybar sway xwayland ;;
-            swaybar) echo sway xwayland ;;
+            swaybar | sway) echo sway xwayland ;;
         esac
     done
 }

@@ -6,14 +6,17 @@ import sway_hosts
 from bus import Bus
 from desktop import wait_until
 from host import Host
-from hosts import wait_for_watcher
+from hosts import filled, wait_for_watcher
 from program import windows
 
 CINNAMON_WATCHER = "/usr/libexec/xapps/sn-watcher/xapp-sn-watcher"
 CINNAMON_APPLETS = """['panel1:left:0:menu@cinnamon.org', 'panel1:right:0:systray@cinnamon.org',
  'panel1:right:1:xapp-status@cinnamon.org']"""
 
-# To the left of what the panel shows besides.
+GNOME_BAR = (0, 0, 1000, 30)
+
+# To the left of what the panels show besides.
+GNOME_TRAY = (700, 0, 940, 30)
 PLASMA_TRAY = (680, 718, 786, 758)
 
 # The bar is as high as its font: at the usual size, an item has no room for figures.
@@ -23,15 +26,19 @@ bar {
     id bar-0
     position top
     i3bar_command /bin/true
+    colors {
+        background @colour@
+    }
 }
 """
 
 
 class Together:
-    """The processes of a panel that has several, as one."""
+    """The processes of a panel that has several, as one; first the one with the windows."""
 
     def __init__(self, *processes):
         self._processes = processes
+        self.pid = processes[0].pid
 
     def kill(self):
         for process in self._processes:
@@ -59,6 +66,15 @@ def wait_for_name(desktop, name):
 
 
 def gnome(desktop):
+    """GNOME, without the overview of all windows that it starts with."""
+    shell = start_gnome(desktop)
+    wait_until(lambda: desktop.picture(GNOME_BAR).getcolors(1) is None, 30, "the top bar")
+    desktop.settled_picture()
+    desktop.run("xdotool", "key", "Escape")
+    return shell
+
+
+def start_gnome(desktop):
     """GNOME with the extension that shows items, which Debian enables for nobody."""
     settings = desktop.environment
     settings["GSETTINGS_BACKEND"] = "keyfile"
@@ -69,8 +85,6 @@ def gnome(desktop):
     desktop.run("gsettings", "set", "org.gnome.shell", "welcome-dialog-last-shown-version", "'99'")
     shell = desktop.start("gnome-shell", "--x11", "--sm-disable")
     wait_for_watcher(desktop)
-    desktop.settled_picture((700, 0, 940, 30))
-    desktop.run("xdotool", "key", "Escape")  # it starts with an overview of all windows
     return shell
 
 
@@ -92,6 +106,15 @@ def cinnamon(desktop):
 
 
 def plasma(desktop):
+    """Plasma, once it has drawn its panel: a while after it accepts items."""
+    panel = start_plasma(desktop)
+    wait_until(lambda: any(width > 900 and height < 100
+                           for _, _, _, width, height in windows(desktop, panel)), 30, "the panel")
+    desktop.settled_picture(PLASMA_TRAY)
+    return panel
+
+
+def start_plasma(desktop):
     """Plasma's usual panel at the bottom. The process that takes the items is not the one that
     shows them."""
     settings = desktop.environment
@@ -103,9 +126,6 @@ def plasma(desktop):
     services = desktop.start("kded5")
     shell = desktop.start("plasmashell", "--no-respawn")
     wait_for_watcher(desktop)
-    wait_until(lambda: any(width > 900 and height < 100
-                           for _, _, _, width, height in windows(desktop, shell)), 30, "the panel")
-    desktop.settled_picture(PLASMA_TRAY)
     return Together(shell, services)
 
 
@@ -120,27 +140,43 @@ def budgie(desktop):
     return panel
 
 
-def i3bar(desktop):
+def i3bar(desktop, colour="#000000"):
     """The bar of the window manager i3, whose tray makes every window a square."""
-    settings = desktop.config / "i3"
-    if not settings.exists():
-        settings.write_text(I3_SETTINGS, encoding="utf-8")
-        started = [desktop.start("i3", "-c", str(settings))]
-
-        def runs():
-            if started[-1].poll() is not None:  # the server has turned its first client away
-                started.append(desktop.start("i3", "-c", str(settings)))
-            return subprocess.run(["i3-msg"], env=desktop.environment, capture_output=True,
-                                  timeout=20).returncode == 0
-
-        wait_until(runs, 20, "i3")
+    runs = (desktop.config / "i3").exists()
+    set_i3bar_colour(desktop, colour)
+    if not runs:
+        start_i3(desktop)
     return desktop.start("i3bar", "--bar_id=bar-0")
 
 
+def set_i3bar_colour(desktop, colour):
+    """i3 keeps the settings of its bars, and may run."""
+    (desktop.config / "i3").write_text(filled(I3_SETTINGS, colour=colour), encoding="utf-8")
+    message_i3(desktop, "reload")
+
+
+def start_i3(desktop):
+    command = "i3", "-c", str(desktop.config / "i3")
+    started = [desktop.start(*command)]
+
+    def runs():
+        if started[-1].poll() is not None:  # the server has turned its first client away
+            started.append(desktop.start(*command))
+        return message_i3(desktop)
+
+    wait_until(runs, 20, "i3")
+
+
+def message_i3(desktop, *message):
+    """Whether i3 runs, and obeys."""
+    return subprocess.run(["i3-msg", *message], env=desktop.environment, capture_output=True,
+                          timeout=20).returncode == 0
+
+
 BY_NAME = {
-    "gnome": Host(gnome, (700, 0, 940, 30), clicks=2, patience=10, window_manager=False),
-    "cinnamon": Host(cinnamon, (500, 722, 1000, 758), patience=10, window_manager=False),
-    "plasma": Host(plasma, PLASMA_TRAY, patience=15),
+    "gnome": Host(gnome, GNOME_TRAY, restart=start_gnome, clicks=2, window_manager=False),
+    "cinnamon": Host(cinnamon, (500, 722, 1000, 758), window_manager=False),
+    "plasma": Host(plasma, PLASMA_TRAY, restart=start_plasma),
     "budgie": Host(budgie, (700, 726, 890, 758)),
     "i3bar": Host(i3bar, (500, 0, 1000, 24), window_manager=False),
 } | sway_hosts.BY_NAME

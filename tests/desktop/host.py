@@ -8,6 +8,6 @@ import typing
 class Host:
     start: typing.Callable  # of the desktop; returns the panel's process, or None
     area: tuple  # left, top, right, bottom of where the item may be, and nothing else that moves
+    restart: typing.Callable = None  # the same, but returns as soon as the panel accepts items
     clicks: int = 1  # that open the dashboard; where it takes two, the first opens the menu
-    patience: float = 3  # seconds until the item is back in a panel that was started again
     window_manager: bool = True  # whether it needs one

@@ -1,74 +1,78 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""The item's text stands out from the panel, dark or light, whatever the applications look like;
-also when the panel comes back in another colour while the program runs."""
+"""The item's text stands out from the panel that the environment variable ZEPHRINE_HOST names, dark
+or light, whatever the applications look like; also when the panel comes back in another colour, or
+takes another one, while the program runs."""
+import os
 import time
 import unittest
 
+import heavy_hosts
 import hosts
+import panel_colours
 from desktop import wait_until
 from program import DesktopTestCase, changed_box, start
 
-DARK, LIGHT = "#222222", "#e8e8e8"
-LEAST_CONTRAST = 4.5  # for text, by https://www.w3.org/TR/WCAG21/#contrast-minimum
-FEW = 20  # pixels, which might be due to chance
-
-
-def xfce(desktop, colour):
-    panel = hosts.xfce(desktop)
-    hosts.set_xfce_panel_dark(desktop, colour == DARK)
-    return panel
-
-
-def mate(desktop, colour):
-    panel = hosts.mate(desktop)
-    for setting, value in (("type", "color"), ("color", colour)):
-        desktop.run("gsettings", "set", "org.mate.panel.toplevel.background:"
-                    "/org/mate/panel/toplevels/top/background/", setting, value)
-    return panel
-
-
-def trayer(desktop, colour):
-    return hosts.trayer(desktop, "--transparent", "true", "--alpha", "0",
-                        "--tint", "0x" + colour.removeprefix("#"))
-
-
-PANELS = {"xfce": xfce, "lxqt": lambda desktop, colour: hosts.lxqt(desktop, colour=colour),
-          "mate": mate, "trayer": trayer, "tint2": hosts.tint2}
+NAME = os.environ["ZEPHRINE_HOST"]
+HOST = (hosts.BY_NAME | heavy_hosts.BY_NAME)[NAME]
+PANEL = panel_colours.BY_NAME[NAME]
 
 
 class PanelAppearance(DesktopTestCase):
-    def test_the_text_stands_out_from_dark_and_light_panels(self):
-        for name, start_panel in PANELS.items():
-            with self.subTest(name), self.desktop() as desktop:
-                desktop.run("xsetroot", "-solid", "#4a6178")  # so that no panel is no dark panel
-                area = hosts.BY_NAME[name].area
-                empty, program = {}, None
-                for colour in (DARK, LIGHT, DARK):
-                    panel = start_panel(desktop, colour)
-                    if colour not in empty:
-                        time.sleep(1)  # it answers on the bus before it has drawn itself
-                        empty[colour] = desktop.settled_picture(area)
-                    if len(empty) == 2:
-                        program = program or start(desktop)
-                        wait_until(lambda: stands_out(desktop.picture(area), empty[colour],
-                                                      colour == DARK),
-                                   10, f"text to be told from {colour}")
-                    panel.kill()
-                    panel.wait()
+    def test_the_text_stands_out_from_a_panel_that_comes_back_in_another_colour(self):
+        with self.desktop(window_manager=HOST.window_manager) as desktop:
+            desktop.run("xsetroot", "-solid", "#4a6178")  # so that no panel is no dark panel
+            panels = []
+
+            def start_again(dark):
+                if panels:
+                    panels[-1].kill()
+                    panels[-1].wait()
+                panels.append(PANEL.start(desktop, dark))
+
+            watch_the_text(desktop, start_again)
+
+    @unittest.skipUnless(PANEL.turn, "this panel takes its colour when it starts")
+    def test_the_text_stands_out_from_a_panel_that_takes_another_colour(self):
+        with self.desktop(window_manager=HOST.window_manager) as desktop:
+            PANEL.start(desktop, True)
+            watch_the_text(desktop, lambda dark: PANEL.turn(desktop, dark))
 
 
-def stands_out(picture, empty, is_dark):
-    """Whether there is text on the panel that was empty, and can be told from what it stands on.
-    The dot beside it is no grey, and does not count."""
+def watch_the_text(desktop, make_panel):
+    """Starts the program once each kind of panel has been seen without it."""
+    empty, program = {}, None
+    for dark in (*PANEL.kinds, PANEL.kinds[0]):
+        make_panel(dark)
+        if dark not in empty:
+            time.sleep(1)  # it answers before it has drawn itself
+            empty[dark] = desktop.settled_picture(HOST.area)
+        if len(empty) == len(PANEL.kinds):
+            program = program or start(desktop)
+            wait_for_text(desktop, empty[dark], dark or PANEL.is_always_dark)
+
+
+def wait_for_text(desktop, empty, is_light):
+    if PANEL.is_always_dark:
+        time.sleep(4)  # the text that was there is right already: for the program to look again
+    wait_until(lambda: stands_out(desktop.picture(HOST.area), empty, is_light), 10,
+               f"{'light' if is_light else 'dark'} text on the panel")
+
+
+def stands_out(picture, empty, is_light):
+    """Whether there is text on the panel that was empty, light or dark, and can be told from what
+    it stands on. The dot beside it is no grey, and does not count."""
     box = changed_box(empty, picture)
     if not box:
         return False
-    colours = picture.crop(box).getcolors(100000)
-    surface = max(colours)[1]
-    legible = sum(count for count, colour in colours if max(colour) - min(colour) < 40
-                  and contrast(colour, surface) >= LEAST_CONTRAST)
-    return (luminance(surface) < 0.18) == is_dark and legible > FEW
+    surface = max(picture.crop(box).getcolors(100000))[1]
+    left, top, right, bottom = box
+    drawn = picture.crop((left, top, min(right, left + PANEL.width), bottom))
+    legible = sum(count for count, colour in drawn.getcolors(100000)
+                  if max(colour) - min(colour) < 40
+                  and (luminance(colour) > luminance(surface)) == is_light
+                  and contrast(colour, surface) >= PANEL.contrast)
+    return legible > PANEL.few
 
 
 def contrast(one, other):

@@ -73,6 +73,27 @@ class Scales(DesktopTestCase):
         self.assertTrue(0 <= y and y + height <= HEIGHT)
         self.assertLess(min(abs(y - bottom), abs(top - y - height)), 20 * scale)
 
+    def test_the_item_in_a_tray_has_the_scale_of_the_screen_of_the_tray(self):
+        with self.desktop(width=WIDTH, height=HEIGHT) as desktop:
+            split_screen(desktop, (WIDTH // 2, WIDTH // 2), height=HEIGHT)
+            hosts.trayer(desktop, "--monitor", "1", "--height", "52")
+            area = (WIDTH // 2, 0, WIDTH, 60)
+            time.sleep(1)  # until the tray is there
+            empty = desktop.settled_picture(area)
+            desktop.start(PROGRAM, environment={
+                "QT_SCREEN_SCALE_FACTORS": "monitor-0=1;monitor-1=2"})
+
+            def sharp_item():
+                picture = desktop.picture(area)
+                box = changed_box(empty, picture)
+                if not box or len(figures(picture.crop(with_margin(box)), 2)) != 2:
+                    return False
+                text = picture.crop(box)
+                return (text.width > 2 * 50 and sharpness(text) > SHARP["none"]
+                        and repetition(text) < REPETITIVE)
+
+            wait_until(sharp_item, 15, "an item that is sharp, and twice the size")
+
     def test_the_strip_is_whole_and_sharp_on_a_screen_of_another_scale(self):
         with self.desktop(width=WIDTH, height=HEIGHT) as desktop:
             split_screen(desktop, (WIDTH // 2, WIDTH // 2), height=HEIGHT)
