@@ -165,6 +165,9 @@ QVariantMap NotifierItem::properties() const {
 }
 
 void NotifierItem::announce(const QString& signal, const QVariantList& arguments) const {
+    if (!isInPanel_) {
+        return;
+    }
     QDBusMessage message = QDBusMessage::createSignal(kPath, kInterface, signal);
     message.setArguments(arguments);
     bus_.send(message);

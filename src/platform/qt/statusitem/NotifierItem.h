@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The item as panels see it: the object /StatusNotifierItem on the message bus. It answers what it
-// is asked and announces what has changed; whether anybody listens is not its concern.
+// is asked, and announces what has changed while a panel shows it.
 // https://www.freedesktop.org/wiki/Specifications/StatusNotifierItem/StatusNotifierItem/
 #pragma once
 
@@ -21,6 +21,8 @@ public:
     ~NotifierItem() override;
     Q_DISABLE_COPY_MOVE(NotifierItem)
 
+    /// Whether a panel shows it, or may: at first it may.
+    void setIsInPanel(bool isInPanel) { isInPanel_ = isInPanel; }
     /// Announces the picture, the label, or both, if they are others than before.
     void setFace(NotifierFace face);
     /// The tool tip, without markup; announced if it is another than before.
@@ -40,6 +42,7 @@ private:
     NotifierFace face_;
     QString toolTip_;
     QString accessibleText_;
+    bool isInPanel_ = true;
 };
 
 }  // namespace zephrine

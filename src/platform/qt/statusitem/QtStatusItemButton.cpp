@@ -106,6 +106,7 @@ std::optional<QRect> QtStatusItemButton::anchorRect() const {
 void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {
     host_ = watcher.process();
     isInPanel_ = watcher.presence() != HostWatcher::Presence::absent;
+    item_.setIsInPanel(isInPanel_);
     trayHasFailed_ = trayHasFailed_ && host_;
     if (prefersTray()) {
         tray_.expectTray();

@@ -107,6 +107,18 @@ TEST_F(StatusItemOnABus, AnnouncesAChangedTextOnce) {
     EXPECT_EQ(panel.property("IconAccessibleDesc"), "CPU   6%");
 }
 
+TEST_F(StatusItemOnABus, SendsNothingWhileNoPanelShowsIt) {
+    FakePanel panel(bus, Manner::refusing);
+    makeItem(milliseconds(10));
+    ASSERT_TRUE(waitUntil([&] { return stripIsShown(); }));
+    panel.settle();
+    panel.signalCounts.clear();
+    button().setToolTip("CPU   6%");
+    button().setImage(sampleImage(Color::systemRedColor));
+    panel.settle();
+    EXPECT_EQ(panel.signalCounts, (QMap<QString, int>{}));
+}
+
 TEST_F(StatusItemOnABus, SendsNothingForWhatIsAlreadySet) {
     FakePanel panel(bus);
     makeItem();
