@@ -3,6 +3,7 @@
 desktop. ZEPHRINE_EVIDENCE names the folder for the logs and pictures of tests that fail."""
 import os
 import pathlib
+import re
 import subprocess
 import unittest
 
@@ -50,6 +51,17 @@ def dashboard(desktop, process):
 def strip(desktop, process):
     """The window that stands in for the item where no panel takes it; None where there is none."""
     return next((w for w in windows(desktop, process) if w[4] < 60), None)
+
+
+def item_in_tray(desktop):
+    """(id, width, height) of the item's window in a tray of X11; None where it has none."""
+    # It gives up halfway where a window goes while it looks.
+    tree = subprocess.run(["xwininfo", "-root", "-tree"], env=desktop.environment,
+                          capture_output=True, text=True, timeout=20).stdout
+    # Indented by more than the five blanks of those that are in no other window.
+    found = re.search(r'^ {6,}(0x[0-9a-f]+) "Zephrine": \("zephrine" "Zephrine"\) +(\d+)x(\d+)',
+                      tree, re.MULTILINE)
+    return found and (found[1], int(found[2]), int(found[3]))
 
 
 def click(desktop, place, button=1):

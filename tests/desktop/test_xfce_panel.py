@@ -2,7 +2,6 @@
 # SPDX-License-Identifier: MIT
 """The status item in the panel of Xfce: it shows, it tells the truth, it follows the panel."""
 import ctypes
-import re
 import unittest
 
 from PIL import ImageStat
@@ -10,8 +9,8 @@ from PIL import ImageStat
 import hosts
 from bus import Bus
 from desktop import wait_until
-from program import (PROGRAM, DesktopTestCase, changed_box, click, dashboard, start, wait_for_item,
-                     wait_for_text)
+from program import (PROGRAM, DesktopTestCase, changed_box, click, dashboard, item_in_tray, start,
+                     wait_for_item, wait_for_text)
 
 PANEL = (0, 0, 1000, 28)
 HORIZONTAL, VERTICAL = 0, 1
@@ -106,9 +105,8 @@ def set_mode(desktop, mode):
 
 def size_in_tray(desktop):
     """Of the item's window; None where it has none in a tray."""
-    tree = desktop.run("xwininfo", "-root", "-tree")
-    found = re.search(r'"Zephrine": \("zephrine" "Zephrine"\) +(\d+)x(\d+)', tree)
-    return found and (int(found[1]), int(found[2]))
+    window = item_in_tray(desktop)
+    return window and window[1:]
 
 
 def take_the_tray(desktop):

@@ -90,11 +90,17 @@ void StatusStrip::setShown(bool shown) {
     fullScreen_.reset();
     if (const std::string socket = swaySocket(); shown && !socket.empty()) {
         fullScreen_ = std::make_unique<SwayFullScreen>(socket, [this] { showOrHide(); });
+        if (!fullScreen_->isWatching()) {
+            fullScreen_.reset();  // the path is left over from another session
+        }
     }
     showOrHide();
 }
 
 void StatusStrip::showOrHide() {
+    if (isShown_ && !isVisible()) {
+        takePlace();
+    }
     const double scale = devicePixelRatioF();
     const QRect pixels(geometry().topLeft() * scale, size() * scale);
     const bool visible = isShown_ && !(fullScreen_ && fullScreen_->covers(pixels));
@@ -102,7 +108,6 @@ void StatusStrip::showOrHide() {
         return;
     }
     if (visible) {
-        takePlace();
         makeWindow();
         show();
     } else {

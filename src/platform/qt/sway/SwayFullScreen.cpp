@@ -19,6 +19,7 @@ constexpr std::chrono::milliseconds kSettling{50};
 
 SwayFullScreen::SwayFullScreen(std::string socket, std::function<void()> changed)
     : socket_(std::move(socket)), changed_(std::move(changed)), events_(socket_) {
+    readable_.setEnabled(false);
     if (!events_.ask(SwayConnection::Request::subscribe, R"(["window", "workspace"])")) {
         return;
     }

@@ -20,6 +20,9 @@ public:
     /// thread when something else is.
     SwayFullScreen(std::string socket, std::function<void()> changed);
 
+    /// False when sway has not answered, or has gone.
+    [[nodiscard]] bool isWatching() const { return readable_.isEnabled(); }
+
     /// Whether a window that has a whole screen for itself is where `place` is, in pixels.
     [[nodiscard]] bool covers(const QRect& place) const;
 

@@ -61,6 +61,7 @@ void letTimePass() {
 TEST_F(FullScreenOnSway, IsKnownFromTheBeginning) {
     film = true;
     const auto watched = fullScreen();
+    EXPECT_TRUE(watched->isWatching());
     EXPECT_TRUE(watched->covers(kStrip));
     EXPECT_FALSE(watched->covers(kStrip.translated(1000, 0))) << "on another screen";
     EXPECT_EQ(changes, 0) << "nothing has changed yet";
@@ -98,6 +99,7 @@ TEST_F(FullScreenOnSway, IsAsItWasOnceSwayHasGoneOrTalksNonsense) {
         const auto watched = fullScreen();
         film = true;
         letTimePass();
+        EXPECT_FALSE(watched->isWatching());
         EXPECT_FALSE(watched->covers(kStrip));
         EXPECT_EQ(changes, 0);
         film = false;
@@ -106,6 +108,7 @@ TEST_F(FullScreenOnSway, IsAsItWasOnceSwayHasGoneOrTalksNonsense) {
 
 TEST_F(FullScreenOnSway, IsNothingWithoutSway) {
     const SwayFullScreen nowhere({}, [] { FAIL(); });
+    EXPECT_FALSE(nowhere.isWatching());
     EXPECT_FALSE(nowhere.covers(kStrip));
 }
 

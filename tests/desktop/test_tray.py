@@ -1,0 +1,50 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""The item in a tray of X11 that is not always there for it."""
+import signal
+import sys
+import unittest
+
+import tray
+from desktop import wait_until
+from program import DesktopTestCase, item_in_tray, start, strip
+
+
+class TrayOfX11(DesktopTestCase):
+    def test_the_item_is_back_in_a_tray_that_has_put_it_out(self):
+        with self.desktop() as desktop:
+            manager = start_tray(desktop)
+            program = start(desktop)
+            first = wait_for_item_in_tray(desktop)
+            for _ in range(3):
+                manager.send_signal(signal.SIGUSR1)
+                first = wait_for_item_in_tray(desktop, other_than=first)
+            self.assertIsNone(strip(desktop, program))
+
+    def test_the_item_moves_on_to_the_next_tray(self):
+        with self.desktop() as desktop:
+            manager = start_tray(desktop)
+            program = start(desktop)
+            first = wait_for_item_in_tray(desktop)
+            manager.kill()
+            manager.wait()
+            start_tray(desktop)
+            wait_for_item_in_tray(desktop, other_than=first)
+            self.assertIsNone(strip(desktop, program))
+
+
+def start_tray(desktop):
+    return desktop.start(sys.executable, tray.__file__)
+
+
+def wait_for_item_in_tray(desktop, other_than=None):
+    """The id of the window that the tray has taken in."""
+    def taken_in():
+        window = item_in_tray(desktop)
+        return window and window[0] != other_than and window[0]
+
+    return wait_until(taken_in, 10, "the item in the tray")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,79 @@
+# SPDX-License-Identifier: MIT
+"""tray.py: a tray of X11 at the top left of the screen, which puts all windows out on SIGUSR1, as
+some panels do while they make themselves anew, and takes them in when they ask again.
+https://specifications.freedesktop.org/systemtray-spec"""
+import ctypes
+import signal
+
+CLIENT_MESSAGE = 33
+STRUCTURE_NOTIFY = 1 << 17
+ICON = (80, 26)  # pixels
+
+
+class ClientMessage(ctypes.Structure):
+    _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
+                ("display", ctypes.c_void_p), ("window", ctypes.c_ulong),
+                ("message", ctypes.c_ulong), ("format", ctypes.c_int), ("data", ctypes.c_long * 5),
+                ("rest", ctypes.c_long * 24)]  # an XEvent is as large as the largest of them
+
+
+class Tray:
+    def __init__(self):
+        self._x11 = ctypes.CDLL("libX11.so.6")
+        self._x11.XOpenDisplay.restype = ctypes.c_void_p
+        self._x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        self._x11.XCreateSimpleWindow.restype = ctypes.c_ulong
+        self._x11.XInternAtom.restype = ctypes.c_ulong
+        self._display = ctypes.c_void_p(self._x11.XOpenDisplay(None))
+        self._root = ctypes.c_ulong(self._x11.XDefaultRootWindow(self._display))
+        self._window = ctypes.c_ulong(self._x11.XCreateSimpleWindow(
+            self._display, self._root, 0, 0, *ICON, 0, 0, 0xe8e8e8))
+        self._x11.XMapWindow(self._display, self._window)
+        self._icons = []
+        self._announce()
+
+    def _atom(self, name):
+        return ctypes.c_ulong(self._x11.XInternAtom(self._display, name, False))
+
+    def _announce(self):
+        tray = self._atom(b"_NET_SYSTEM_TRAY_S0")
+        self._x11.XSetSelectionOwner(self._display, tray, self._window, 0)
+        news = ClientMessage(type=CLIENT_MESSAGE, window=self._root,
+                             message=self._atom(b"MANAGER"), format=32,
+                             data=(0, tray.value, self._window.value, 0, 0))
+        self._x11.XSendEvent(self._display, self._root, False, STRUCTURE_NOTIFY,
+                             ctypes.byref(news))
+
+    def put_out(self):
+        while self._icons:
+            self._x11.XUnmapWindow(self._display, self._icons[-1])
+            self._x11.XReparentWindow(self._display, self._icons.pop(), self._root, 0, 0)
+        self._x11.XSync(self._display, False)
+
+    def serve(self):
+        event = ClientMessage()
+        opcode = self._atom(b"_NET_SYSTEM_TRAY_OPCODE").value
+        while self._x11.XPending(self._display):
+            self._x11.XNextEvent(self._display, ctypes.byref(event))
+            if event.type == CLIENT_MESSAGE and event.message == opcode:
+                self._take_in(ctypes.c_ulong(event.data[2]))
+
+    def _take_in(self, icon):
+        self._icons.append(icon)
+        self._x11.XReparentWindow(self._display, icon, self._window, 0, 0)
+        self._x11.XResizeWindow(self._display, icon, *ICON)
+        self._x11.XMapWindow(self._display, icon)
+        self._x11.XSync(self._display, False)
+
+
+def main():
+    signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGUSR1])
+    tray = Tray()
+    while True:
+        tray.serve()
+        if signal.sigtimedwait([signal.SIGUSR1], 0.02):
+            tray.put_out()
+
+
+if __name__ == "__main__":
+    main()
