@@ -69,9 +69,13 @@ void HostWatcher::offerItem() {
     if (isWanted_) {
         askForHost();
     } else {
-        isHeldBack_ = true;
-        missPanel();
+        holdBack();
     }
+}
+
+void HostWatcher::holdBack() {
+    isHeldBack_ = true;
+    missPanel();
 }
 
 /// Without the delay.
@@ -85,7 +89,7 @@ void HostWatcher::askForHost() {
     bus_.askForHost(owner_, ifCurrent<bool>([this](bool hasHost) {
                         hasHost_ = hasHost;
                         if (hasHost && registration_ == Registration::none) {
-                            registerItem();
+                            isWanted_ ? registerItem() : holdBack();
                         }
                         update();
                     }));

@@ -38,6 +38,7 @@ private:
     enum class Registration { none, asked, done };
 
     void offerItem();
+    void holdBack();
     void missPanel();
     void askForHost();
     void registerItem();

@@ -95,6 +95,13 @@ NotifierItem::~NotifierItem() {
     bus_.unregisterObject(kPath);
 }
 
+void NotifierItem::setIsInPanel(bool isInPanel) {
+    const bool wasInPanel = std::exchange(isInPanel_, isInPanel);
+    if (isInPanel && !wasInPanel) {
+        announce("NewToolTip");  // it may have changed, and the panel have asked before
+    }
+}
+
 void NotifierItem::setFace(NotifierFace face) {
     const NotifierFace before = std::exchange(face_, std::move(face));
     if (before.iconName != face_.iconName || before.pixmaps != face_.pixmaps) {

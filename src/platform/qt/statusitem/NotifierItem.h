@@ -22,7 +22,7 @@ public:
     Q_DISABLE_COPY_MOVE(NotifierItem)
 
     /// Whether a panel shows it, or may: at first it may.
-    void setIsInPanel(bool isInPanel) { isInPanel_ = isInPanel; }
+    void setIsInPanel(bool isInPanel);
     /// Announces the picture, the label, or both, if they are others than before.
     void setFace(NotifierFace face);
     /// The tool tip, without markup; announced if it is another than before.

@@ -100,7 +100,7 @@ std::optional<QRect> QtStatusItemButton::anchorRect() const {
     if (const auto inTray = tray_.place()) {
         return inTray;
     }
-    return strip_.isVisible() ? std::optional(strip_.place()) : lastClick_;
+    return strip_.isShown() ? std::optional(strip_.place()) : lastClick_;
 }
 
 void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {

@@ -91,7 +91,7 @@ void StatusStrip::setShown(bool shown) {
     if (const std::string socket = swaySocket(); shown && !socket.empty()) {
         fullScreen_ = std::make_unique<SwayFullScreen>(socket, [this] { showOrHide(); });
         if (!fullScreen_->isWatching()) {
-            fullScreen_.reset();  // the path is left over from another session
+            fullScreen_.reset();  // the path is left over from another session, mostly
         }
     }
     showOrHide();
@@ -101,9 +101,8 @@ void StatusStrip::showOrHide() {
     if (isShown_ && !isVisible()) {
         takePlace();
     }
-    const double scale = devicePixelRatioF();
-    const QRect pixels(geometry().topLeft() * scale, size() * scale);
-    const bool visible = isShown_ && !(fullScreen_ && fullScreen_->covers(pixels));
+    const bool isCovered = fullScreen_ && fullScreen_->covers(pixelRect(geometry()));
+    const bool visible = isShown_ && !isCovered;
     if (visible == isVisible()) {
         return;
     }
@@ -111,6 +110,7 @@ void StatusStrip::showOrHide() {
         makeWindow();
         show();
     } else {
+        grip_.reset();
         hide();
         destroy();  // the window's place is off in Qt when it is shown a second time
     }

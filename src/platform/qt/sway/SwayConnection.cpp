@@ -19,7 +19,8 @@ namespace zephrine {
 
 namespace {
 
-constexpr std::chrono::milliseconds kPatience{250};
+// sway is busy while a session starts; and where it hangs, so does all that can be seen.
+constexpr std::chrono::seconds kPatience{1};
 constexpr std::uint32_t kLongestAnswer = 16U << 20U;  // a tree of many thousand windows
 constexpr std::string_view kMagic = "i3-ipc";
 constexpr std::uint32_t kEvent = 1U << 31U;  // set in the types of what comes unasked

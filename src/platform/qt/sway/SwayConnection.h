@@ -29,11 +29,11 @@ public:
     explicit SwayConnection(const std::string& path);
 
     /// The answer, which is JSON; absent when there is none. Waits for it, but all the questions
-    /// of one connection together for no longer than a quarter of a second.
+    /// of one connection together for no longer than a second.
     [[nodiscard]] std::optional<QByteArray> ask(Request request, const QByteArray& payload = {});
 
     /// What sway has told since it was asked to (`Request::subscribe`), one by one, as JSON. Waits
-    /// a quarter of a second at most; absent when nothing has come whole by then.
+    /// a second at most; absent when nothing has come whole by then.
     [[nodiscard]] std::optional<QByteArray> nextEvent();
 
     /// Becomes readable when there is an event; below 0 without a connection.

@@ -20,7 +20,9 @@ constexpr std::chrono::milliseconds kSettling{50};
 SwayFullScreen::SwayFullScreen(std::string socket, std::function<void()> changed)
     : socket_(std::move(socket)), changed_(std::move(changed)), events_(socket_) {
     readable_.setEnabled(false);
-    if (!events_.ask(SwayConnection::Request::subscribe, R"(["window", "workspace"])")) {
+    const auto answer =
+        events_.ask(SwayConnection::Request::subscribe, R"(["window", "workspace"])");
+    if (!isSubscribed(answer.value_or(QByteArray()))) {
         return;
     }
     settled_.setSingleShot(true);
@@ -29,7 +31,7 @@ SwayFullScreen::SwayFullScreen(std::string socket, std::function<void()> changed
     QObject::connect(&readable_, &QSocketNotifier::activated, [this] { receive(); });
     readable_.setSocket(events_.descriptor());
     readable_.setEnabled(true);
-    areas_ = areasNow();
+    areas_ = areasNow().value_or(QList<QRect>());
 }
 
 bool SwayFullScreen::covers(const QRect& place) const {
@@ -40,7 +42,9 @@ bool SwayFullScreen::covers(const QRect& place) const {
 void SwayFullScreen::receive() {
     const auto event = events_.nextEvent();
     if (!event) {
-        readable_.setEnabled(false);  // sway has gone, or makes no sense any more
+        readable_.setEnabled(false);
+        settled_.stop();
+        cover({});
         return;
     }
     // Some programs change their titles many times a second.
@@ -50,16 +54,21 @@ void SwayFullScreen::receive() {
 }
 
 void SwayFullScreen::look() {
-    QList<QRect> areas = areasNow();
-    if (std::exchange(areas_, areas) != areas) {
+    if (auto areas = areasNow()) {
+        cover(std::move(*areas));
+    }
+}
+
+void SwayFullScreen::cover(QList<QRect> areas) {
+    if (std::exchange(areas_, std::move(areas)) != areas_) {
         changed_();
     }
 }
 
-QList<QRect> SwayFullScreen::areasNow() const {
+std::optional<QList<QRect>> SwayFullScreen::areasNow() const {
     SwayConnection sway(socket_);
     const auto tree = sway.ask(SwayConnection::Request::getTree);
-    return fullScreenAreas(tree.value_or(QByteArray()));
+    return tree ? std::optional(fullScreenAreas(*tree)) : std::nullopt;
 }
 
 }  // namespace zephrine

@@ -8,6 +8,7 @@
 #include <QSocketNotifier>
 #include <QTimer>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/qt/sway/SwayConnection.h"
@@ -20,7 +21,7 @@ public:
     /// thread when something else is.
     SwayFullScreen(std::string socket, std::function<void()> changed);
 
-    /// False when sway has not answered, or has gone.
+    /// False when sway has not answered, or has gone: nothing is covered then.
     [[nodiscard]] bool isWatching() const { return readable_.isEnabled(); }
 
     /// Whether a window that has a whole screen for itself is where `place` is, in pixels.
@@ -29,7 +30,8 @@ public:
 private:
     void receive();
     void look();
-    [[nodiscard]] QList<QRect> areasNow() const;
+    void cover(QList<QRect> areas);
+    [[nodiscard]] std::optional<QList<QRect>> areasNow() const;
 
     std::string socket_;
     std::function<void()> changed_;

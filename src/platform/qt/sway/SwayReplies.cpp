@@ -100,6 +100,10 @@ QList<QRect> fullScreenAreas(const QByteArray& tree) {
     return areas;
 }
 
+bool isSubscribed(const QByteArray& answer) {
+    return QJsonDocument::fromJson(answer).object()["success"].toBool();
+}
+
 QString changeOf(const QByteArray& event) {
     return QJsonDocument::fromJson(event).object()["change"].toString();
 }

@@ -25,6 +25,9 @@ namespace zephrine {
 /// GET_TREE.
 [[nodiscard]] QList<QRect> fullScreenAreas(const QByteArray& tree);
 
+/// Whether sway is going to send events, from the answer to SUBSCRIBE.
+[[nodiscard]] bool isSubscribed(const QByteArray& answer);
+
 /// What has happened to a window or a workspace, as an event of sway names it; empty if nothing.
 [[nodiscard]] QString changeOf(const QByteArray& event);
 

@@ -91,10 +91,8 @@ void PopoverFrame::adopt(bool composited) {
 
 void PopoverFrame::open(QPoint corner, bool isBesideItem) {
     adopt(isComposited());
-    moveTo(corner);
-    if (!isBesideItem) {
-        besideItem_.reset();
-    }
+    besideItem_ = isBesideItem ? std::optional(corner) : std::nullopt;
+    move(corner - panel().topLeft());
     setAttribute(Qt::WA_KeyboardFocusChange, false);
     const bool fades = composited_ && !appearance_.reducesMotion();
     setWindowOpacity(fades ? 0.0 : 1.0);
@@ -122,12 +120,16 @@ void PopoverFrame::placeOnSway(int attempts) {
     if (socket.empty() || !isVisible() || attempts == 0) {
         return;
     }
-    const double scale = devicePixelRatio();
-    const QRect pixels(panel().topLeft() * scale, panel().size() * scale);
     const auto window = static_cast<std::uint32_t>(winId());
-    const SwayAnswer answer =
-        besideItem_ ? moveOnSway(socket, window, *besideItem_ * scale - pixels.topLeft())
-                    : moveToPointerOnSway(socket, window, pixels);
+    SwayAnswer answer{};
+    if (besideItem_) {
+        const QRect frame(*besideItem_ - panel().topLeft(), size());
+        answer = moveOnSway(socket, window, pixelRect(frame).topLeft());
+    } else {
+        const double scale = devicePixelRatio();
+        const QRect panelPixels(panel().topLeft() * scale, panel().size() * scale);
+        answer = moveToPointerOnSway(socket, window, panelPixels);
+    }
     if (answer == SwayAnswer::unknownWindow) {
         QTimer::singleShot(kPlacementInterval, this,
                            [this, attempts] { placeOnSway(attempts - 1); });

@@ -137,6 +137,16 @@ std::optional<QRect> placeOnScreen(std::uint32_t window, QSize size) {
     return reply ? std::optional(logicalRect({{reply->dst_x, reply->dst_y}, size})) : std::nullopt;
 }
 
+QRect pixelRect(const QRect& place) {
+    const QScreen* screen = QGuiApplication::screenAt(place.center());
+    if (screen == nullptr) {
+        screen = QGuiApplication::primaryScreen();
+    }
+    const QPoint corner = screen->geometry().topLeft();
+    const double scale = screen->devicePixelRatio();
+    return {corner + (place.topLeft() - corner) * scale, place.size() * scale};
+}
+
 void activateAsPager(QWindow& window) {
     if (xcb_connection_t* connection = x11Connection()) {
         constexpr std::uint32_t fromPager = 2;

@@ -34,6 +34,9 @@ QRect placeOnScreen(const QWidget& window);
 /// when the display is not X11.
 std::optional<QRect> placeOnScreen(std::uint32_t window, QSize size);
 
+/// Where a place in global logical coordinates is on the X server, in pixels.
+QRect pixelRect(const QRect& place);
+
 /// Asks the window manager for the keyboard as a pager does: such a request is granted also when
 /// the click that led to it went to another program, as clicks on a panel do.
 void activateAsPager(QWindow& window);

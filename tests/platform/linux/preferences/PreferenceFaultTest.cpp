@@ -10,6 +10,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -59,11 +61,24 @@ bool dropPrivileges() {
     }
 }
 
+/// Microseconds in which a writer gets far enough to be killed anywhere: some disks are slow.
+useconds_t timeOfSomeWrites() {
+    const testing::FakeTree tree;
+    JSONPreferenceStore store(tree.path("zephrine/preferences.json"));
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < 8; ++i) {
+        store.setInteger(i, "first");
+    }
+    const auto passed = std::chrono::steady_clock::now() - start;
+    return static_cast<useconds_t>(
+        std::chrono::duration_cast<std::chrono::microseconds>(passed).count());
+}
+
 TEST(PreferenceFaults, LeaveAWholeFileWhereverAWriterIsKilled) {
     const testing::FakeTree tree;
     const std::string path = tree.path("zephrine/preferences.json");
     std::mt19937 random(20'260'721);
-    std::uniform_int_distribution<useconds_t> moments(0, 20'000);
+    std::uniform_int_distribution<useconds_t> moments(0, std::max(20'000U, timeOfSomeWrites()));
     double last = 0;
     for (int kill = 0; kill < 200; ++kill) {
         const pid_t writer = ::fork();

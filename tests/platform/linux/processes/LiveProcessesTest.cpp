@@ -106,9 +106,6 @@ TEST(LiveProcesses, AreAllFoundByEveryCapture) {
         for (const std::int32_t pid : before) {
             EXPECT_TRUE(found.contains(pid) || !after.contains(pid)) << pid << " was not found";
         }
-        for (const std::int32_t pid : found) {
-            EXPECT_TRUE(before.contains(pid) || after.contains(pid)) << pid << " is none";
-        }
         EXPECT_THAT(found, Contains(table.getpid()));
         EXPECT_THAT(found, Contains(child.pid()));
     }

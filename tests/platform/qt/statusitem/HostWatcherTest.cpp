@@ -270,6 +270,19 @@ TEST_F(HostWatch, HoldsTheItemBackFromAPanelThatIsNotToHaveIt) {
     EXPECT_FALSE(delay.pending);
 }
 
+TEST_F(HostWatch, HoldsTheItemBackWhereThatIsDecidedWhileThePanelIsAsked) {
+    watcher.start(true);
+    watcher.watcherOwnerChanged(":1.5");
+    answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
+    watcher.setWanted(false);
+    answerNext(bus.hostQuestions, true);
+    EXPECT_TRUE(bus.registrations.empty());
+    EXPECT_EQ(watcher.presence(), Presence::absent);
+    watcher.setWanted(true);
+    answerNext(bus.hostQuestions, true);
+    EXPECT_EQ(bus.registrations.size(), 1U);
+}
+
 TEST_F(HostWatch, OffersTheItemThatItHeldBack) {
     watcher.start(true);
     watcher.setWanted(false);

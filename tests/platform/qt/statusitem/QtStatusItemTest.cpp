@@ -108,8 +108,11 @@ TEST_F(StatusItemOnABus, AnnouncesAChangedTextOnce) {
 }
 
 TEST_F(StatusItemOnABus, SendsNothingWhileNoPanelShowsIt) {
-    FakePanel panel(bus, Manner::refusing);
+    FakePanel panel(bus);
     makeItem(milliseconds(10));
+    ASSERT_TRUE(hasItem(panel));
+    panel.hasHost = false;
+    panel.announceHost();
     ASSERT_TRUE(waitUntil([&] { return stripIsShown(); }));
     panel.settle();
     panel.signalCounts.clear();
@@ -117,6 +120,13 @@ TEST_F(StatusItemOnABus, SendsNothingWhileNoPanelShowsIt) {
     button().setImage(sampleImage(Color::systemRedColor));
     panel.settle();
     EXPECT_EQ(panel.signalCounts, (QMap<QString, int>{}));
+
+    panel.hasHost = true;
+    panel.announceHost();
+    ASSERT_TRUE(waitUntil([&] { return !stripIsShown(); }));
+    panel.settle();
+    EXPECT_EQ(panel.signalCounts, (QMap<QString, int>{{"NewIcon", 1}, {"NewToolTip", 1}}))
+        << "what it has missed";
 }
 
 TEST_F(StatusItemOnABus, SendsNothingForWhatIsAlreadySet) {

@@ -22,7 +22,9 @@ const QRect kStrip(912, 4, 80, 28);
 struct FullScreenOnSway : testing::Test {
     FakeSway sway;
     std::atomic<bool> film = false;
+    std::atomic<bool> tellsTree = true;
     std::atomic<int> looks = 0;
+    QByteArray subscription = R"({"success": true})";
     QByteArray news;  ///< comes right behind the answer to who wants to know them
     int changes = 0;
 
@@ -30,10 +32,13 @@ struct FullScreenOnSway : testing::Test {
         sway.answer = [this](std::uint32_t type, const QByteArray& payload) {
             if (type == kSubscribe) {
                 EXPECT_EQ(payload, R"(["window", "workspace"])");
-                return messageOfSway(type, R"({"success": true})") + news;
+                return messageOfSway(type, subscription) + news;
             }
             EXPECT_EQ(type, kGetTree);
             ++looks;
+            if (!tellsTree) {
+                return QByteArray();
+            }
             return messageOfSway(type, QByteArray(R"json({"nodes": [{"type": "con",
                 "rect": {"x": 0, "y": 0, "width": 1000, "height": 760}, "visible": true,
                 "fullscreen_mode": MODE}]})json")
@@ -87,12 +92,38 @@ TEST_F(FullScreenOnSway, IsLookedForOnceWhereMuchHappensAtOnce) {
 TEST_F(FullScreenOnSway, IsNotLookedForWhenATitleChanges) {
     news = event("title") + event("title");
     const auto watched = fullScreen();
-    sway.end();  // the end of the connection comes behind the events
     letTimePass();
     EXPECT_EQ(looks, 1);
 }
 
-TEST_F(FullScreenOnSway, IsAsItWasOnceSwayHasGoneOrTalksNonsense) {
+TEST_F(FullScreenOnSway, IsNothingOnceSwayHasGone) {
+    film = true;
+    const auto watched = fullScreen();
+    ASSERT_TRUE(watched->covers(kStrip));
+    sway.end();
+    ASSERT_TRUE(waitUntil([&] { return changes == 1; }));
+    EXPECT_FALSE(watched->covers(kStrip));
+    EXPECT_FALSE(watched->isWatching());
+}
+
+TEST_F(FullScreenOnSway, IsAsItWasWhileSwayDoesNotTell) {
+    film = true;
+    news = event("focus");
+    auto watched = fullScreen();
+    ASSERT_TRUE(watched->covers(kStrip));
+    tellsTree = false;
+    ASSERT_TRUE(waitUntil([&] { return looks == 2; }));
+    letTimePass();
+    EXPECT_TRUE(watched->covers(kStrip));
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(FullScreenOnSway, IsNothingWhereSwayRefusesToTell) {
+    subscription = R"({"success": false})";
+    EXPECT_FALSE(fullScreen()->isWatching());
+}
+
+TEST_F(FullScreenOnSway, IsNothingWhereSwayTalksNonsense) {
     for (const QByteArray& nonsense :
          {QByteArray("nonsense, and no message"), messageOfSway(kGetTree, "{}")}) {
         news = nonsense;

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QStyle>
 #include <QToolTip>
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <string>
@@ -23,17 +24,19 @@ namespace {
 // For a tray that was asked to take the item in, or to come back after it has gone.
 constexpr std::chrono::seconds kPatience{3};
 // Before a tray is asked again that has put the item out. Some do so while they make their own
-// window anew; one that does not want the item is not to be pestered.
+// window anew. One that does not want the item is asked ever more seldom: each pause is twice the
+// last one, until the item has stood in a tray for a while.
 constexpr std::chrono::milliseconds kPause{500};
+constexpr std::chrono::milliseconds kLongestPause{64000};
+constexpr std::chrono::milliseconds kWhile{10000};
 
 }  // namespace
 
-TrayItem::TrayItem() {
+TrayItem::TrayItem() : nextPause_(kPause) {
     patience_.setSingleShot(true);
     patience_.setInterval(kPatience);
     patience_.callOnTimeout([this] { setPresence(Presence::absent); });
     pause_.setSingleShot(true);
-    pause_.setInterval(kPause);
     pause_.callOnTimeout([this] { findManager(); });
     rest_.setSingleShot(true);
     rest_.setInterval(QApplication::style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay));
@@ -76,15 +79,8 @@ void TrayItem::setPicture(const StatusItemImage& image, Appearance appearance) {
     image_ = image;
     appearance_ = appearance;
     if (window_) {
-        window_->setPicture(image_, appearance_, density());
+        window_->setPicture(image_, appearance_, density_);
     }
-}
-
-/// Device pixels per point on the screen of the tray; of the primary one until that is known.
-double TrayItem::density() const {
-    const auto at = place();
-    const QScreen* const screen = at ? QGuiApplication::screenAt(at->center()) : nullptr;
-    return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->devicePixelRatio();
 }
 
 std::optional<QRect> TrayItem::place() const {
@@ -145,6 +141,7 @@ void TrayItem::dockWith(xcb_window_t manager) {
     listen(connection_->get(), manager,
            XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
     hints_ = hintsOfTray(connection_->get(), connection_->screen(), manager);
+    density_ = QGuiApplication::primaryScreen()->devicePixelRatio();
     if (!hints_) {
         return;
     }
@@ -157,9 +154,10 @@ void TrayItem::dockWith(xcb_window_t manager) {
         TrayWindow::Handlers{.placed = [this] { placed(); },
                              // It is in the middle of one of its own operations.
                              .lost =
-                                 [this] {
+                                 [this, docking = ++docking_] {
                                      QMetaObject::invokeMethod(
-                                         this, [this] { lost(); }, Qt::QueuedConnection);
+                                         this, [this, docking] { lost(docking); },
+                                         Qt::QueuedConnection);
                                  },
                              .clicked =
                                  [this] {
@@ -172,16 +170,27 @@ void TrayItem::dockWith(xcb_window_t manager) {
 
 void TrayItem::placed() {
     patience_.stop();
-    setPresence(Presence::docked);
-    setPicture(image_, appearance_);  // the tray may stand on a screen of another density
+    if (presence_ != Presence::docked) {
+        docked_.start();
+        setPresence(Presence::docked);
+    }
+    // The tray may stand on a screen of another density.
+    const auto at = place();
+    if (const auto* screen = at ? QGuiApplication::screenAt(at->center()) : nullptr) {
+        density_ = screen->devicePixelRatio();
+    }
+    setPicture(image_, appearance_);
     Q_EMIT placeChanged();
 }
 
-void TrayItem::lost() {
-    leaveTray();
-    if (connection_) {
-        pause_.start();
+void TrayItem::lost(unsigned docking) {
+    if (docking != docking_ || !connection_) {
+        return;  // it stands in the next tray by now, or is to stand in none
     }
+    leaveTray();
+    const bool hasStoodAWhile = docked_.isValid() && docked_.hasExpired(kWhile.count());
+    pause_.start(hasStoodAWhile ? kPause : nextPause_);
+    nextPause_ = std::min(2 * pause_.intervalAsDuration(), kLongestPause);
 }
 
 void TrayItem::leaveTray() {

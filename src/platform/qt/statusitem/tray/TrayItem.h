@@ -3,10 +3,12 @@
 // the tray: docks with each new one, and tells when there is none.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QRect>
 #include <QString>
 #include <QTimer>
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -53,10 +55,9 @@ private:
     void findManager();
     void dockWith(xcb_window_t manager);
     void placed();
-    void lost();
+    void lost(unsigned docking);
     void leaveTray();
     void setPresence(Presence presence);
-    [[nodiscard]] double density() const;
 
     std::unique_ptr<X11Client> connection_;  // only while it is wanted
     xcb_atom_t selection_ = XCB_ATOM_NONE;
@@ -65,8 +66,12 @@ private:
     std::optional<TrayHints> hints_;  ///< the manager's
     std::unique_ptr<TrayWindow> window_;
     QTimer patience_;
+    unsigned docking_ = 0;  ///< the number of the window
+    double density_ = 1;    ///< device pixels per point on the screen of the tray
+    QElapsedTimer docked_;
     QTimer pause_;  ///< before the tray is asked again
-    QTimer rest_;   ///< of the pointer, until the tip is shown
+    std::chrono::milliseconds nextPause_;
+    QTimer rest_;  ///< of the pointer, until the tip is shown
     QString toolTip_;
     StatusItemImage image_;
     Appearance appearance_ = Appearance::aqua;
