@@ -37,7 +37,7 @@ std::string output(const char* command) {
 
 /// Since 4.0.1 `free` calls used what is not available; before, it left out tmpfs.
 bool isFreeRecent() {
-    const std::regex name("free from procps-ng (\\d+)\\.(\\d+)\\.(\\d+)\\s*");
+    const std::regex name(R"(free from procps-ng (\d+)\.(\d+)\.(\d+)\s*)");
     const std::string version = output("free --version 2>/dev/null");
     std::smatch numbers;
     return std::regex_match(version, numbers, name) &&
@@ -47,7 +47,7 @@ bool isFreeRecent() {
 
 double usedByFree() {
     const std::string text = output("LC_ALL=C free -b");
-    const std::regex totalAndUsed("Mem: +\\d+ +(\\d+)");
+    const std::regex totalAndUsed(R"(Mem: +\d+ +(\d+))");
     std::smatch numbers;
     if (!std::regex_search(text, numbers, totalAndUsed)) {
         ADD_FAILURE() << "cannot read: " << text;

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <cstring>
 #include <functional>
+#include <mutex>
 #include <string>
 #include <thread>
 #include <utility>
@@ -42,7 +43,11 @@ public:
     FakeSway(const FakeSway&) = delete;
     FakeSway& operator=(const FakeSway&) = delete;
 
-    [[nodiscard]] const std::string& path() const { return path_; }
+    /// Where to call it. What the test has set before this, the thread sees.
+    [[nodiscard]] std::string path() const {
+        const std::lock_guard lock(mutex_);
+        return path_;
+    }
 
     /// Says nothing any more, and hangs up on everybody.
     void end() {
@@ -77,7 +82,7 @@ private:
     }
 
     /// Whether the client is still there, and answered.
-    bool serve(const FileDescriptor& client) const {
+    [[nodiscard]] bool serve(const FileDescriptor& client) const {
         std::array<char, 14> head{};
         if (::recv(client.get(), head.data(), head.size(), MSG_WAITALL) !=
             static_cast<ssize_t>(head.size())) {
@@ -90,12 +95,14 @@ private:
                                       static_cast<ssize_t>(numbers[0])) {
             return false;
         }
+        const std::lock_guard lock(mutex_);
         const QByteArray bytes = answer(numbers[1], payload);
         return !bytes.isEmpty() &&
                ::send(client.get(), bytes.constData(), static_cast<std::size_t>(bytes.size()),
                       MSG_NOSIGNAL) == bytes.size();
     }
 
+    mutable std::mutex mutex_;
     QTemporaryDir folder_;
     std::string path_ = folder_.path().toStdString() + "/sway";
     FileDescriptor listener_ = listenAtSocket(path_, SOCK_STREAM);
