@@ -81,8 +81,10 @@ class Desktop:
     def _start_display(self, undo):
         ready, report = os.pipe()
         with os.fdopen(ready) as answer:
+            # Without -noreset it begins anew when its only client leaves, and loses the next one.
             self.server = self._spawn("Xvfb", "-displayfd", str(report), "-screen", "0",
-                                      self._size, "-nolisten", "tcp", pass_fds=(report,))
+                                      self._size, "-nolisten", "tcp", "-noreset",
+                                      pass_fds=(report,))
             os.close(report)
             number = answer.readline().strip()
         if not number:
@@ -104,13 +106,10 @@ class Desktop:
 
     def _start_window_manager(self):
         # A window that opens while the window manager starts may be overlooked for good.
-        self._manager = self.start("openbox", "--sm-disable")
+        self.start("openbox", "--sm-disable")
         wait_until(self._window_manager_runs, 20, "the window manager")
 
     def _window_manager_runs(self):
-        if self._manager.poll() is not None:
-            # Now and then a server that has told its number turns its first client away.
-            self._manager = self.start("openbox", "--sm-disable")
         return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment,
                               capture_output=True, timeout=20).returncode == 0
 

@@ -156,15 +156,8 @@ def set_i3bar_colour(desktop, colour):
 
 
 def start_i3(desktop):
-    command = "i3", "-c", str(desktop.config / "i3")
-    started = [desktop.start(*command)]
-
-    def runs():
-        if started[-1].poll() is not None:  # the server has turned its first client away
-            started.append(desktop.start(*command))
-        return message_i3(desktop)
-
-    wait_until(runs, 20, "i3")
+    desktop.start("i3", "-c", str(desktop.config / "i3"))
+    wait_until(lambda: message_i3(desktop), 20, "i3")
 
 
 def message_i3(desktop, *message):

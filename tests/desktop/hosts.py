@@ -4,6 +4,8 @@ the panel accepts items, and returns the panel's process."""
 from bus import Bus
 from desktop import wait_until
 from host import Host
+from program import windows
+from x11 import Display
 
 XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
@@ -89,6 +91,7 @@ def xfce(desktop, edge="top", centred=False, x=0):
             encoding="utf-8")
     panel = desktop.start("xfce4-panel", "--disable-wm-check")
     wait_for_watcher(desktop)
+    wait_until_drawn(desktop, panel)
     return panel
 
 
@@ -109,6 +112,7 @@ def lxqt(desktop, edge="bottom", colour="#e8e8e8", monitor=0):
     (folder / "panel.conf").write_text(text, encoding="utf-8")
     panel = desktop.start("lxqt-panel", environment={"QT_QPA_PLATFORM": "xcb"})
     wait_for_watcher(desktop)
+    wait_until_drawn(desktop, panel)
     return panel
 
 
@@ -118,6 +122,7 @@ def mate(desktop):
     desktop.run("gsettings", "set", "org.mate.panel", "enable-sni-support", "true")
     panel = desktop.start("mate-panel")
     wait_for_watcher(desktop)
+    wait_until_drawn(desktop, panel)
     return panel
 
 
@@ -126,17 +131,40 @@ def wait_for_watcher(desktop):
         wait_until(lambda: bus.owner("org.kde.StatusNotifierWatcher"), 20, "a status item host")
 
 
+def wait_for_tray(desktop):
+    with Display(desktop.display) as display:
+        wait_until(display.tray_owner, 20, "a tray of X11")
+
+
+def wait_until_drawn(desktop, panel):
+    """A panel accepts items, and shows its windows, before it draws on them: until then, the
+    desktop is seen in them."""
+    def is_drawn():
+        bare = max(desktop.picture().getcolors(2**24))[1]
+        return any(colour != bare for _, left, top, width, height in windows(desktop, panel)
+                   for _, colour in desktop.picture((left, top, left + width, top + height))
+                   .getcolors(2**24))
+
+    wait_until(is_drawn, 20, "a panel that is drawn")
+
+
 def trayer(desktop, *options):
     """A tray of X11 and nothing else, which leaves windows as wide as they wish to be."""
-    return desktop.start("trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
-                         "--height", "26", *options)
+    panel = desktop.start("trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
+                          "--height", "26", *options)
+    wait_for_tray(desktop)
+    wait_until_drawn(desktop, panel)
+    return panel
 
 
 def tint2(desktop, colour="#222222"):
     """A panel with a tray of X11 that makes every window a square."""
     settings = desktop.config / "tint2rc"
     settings.write_text(filled(TINT2_PANEL, colour=colour), encoding="utf-8")
-    return desktop.start("tint2", "-c", str(settings))
+    panel = desktop.start("tint2", "-c", str(settings))
+    wait_for_tray(desktop)
+    wait_until_drawn(desktop, panel)
+    return panel
 
 
 def none(_):

@@ -8,11 +8,11 @@ import time
 
 @contextlib.contextmanager
 def cpu_load(percent):
-    """Keeps every processor busy for `percent` of the time."""
+    """Keeps every processor that there is for us busy for `percent` of the time."""
     if percent == 0:
         yield
         return
-    load = subprocess.Popen(["stress-ng", "--quiet", "--cpu", str(os.cpu_count()),
+    load = subprocess.Popen(["stress-ng", "--quiet", "--cpu", str(len(os.sched_getaffinity(0))),
                              "--cpu-load", str(percent)])
     try:
         yield
@@ -38,12 +38,15 @@ def compare(item, seconds, interval=1.0):
     time.sleep(2.5 * interval)  # until the figures tell of the present load only
     end = time.monotonic() + seconds + 2 * interval
     while (now := time.monotonic()) < end:
-        samples.append((now, float(item.text()[1]), ticks()))
+        if text := item.text():
+            samples.append((now, float(text[1]), ticks()))
         time.sleep(0.05)
 
     changes = [i for i in range(1, len(samples))
                if samples[i][1] != samples[i - 1][1] and samples[i][0] > samples[0][0] + interval]
-    first, last = (changes[0], changes[-1]) if len(changes) > 5 else (0, len(samples) - 1)
+    first, last = changes[:1] + changes[-1:] if changes else (0, len(samples) - 1)
+    if samples[last][0] - samples[first][0] < seconds / 2:
+        first, last = 0, len(samples) - 1
     shown = sum(samples[i][1] * (samples[i + 1][0] - samples[i][0]) for i in range(first, last))
     shown /= samples[last][0] - samples[first][0]
 
@@ -54,8 +57,13 @@ def compare(item, seconds, interval=1.0):
     return shown, 100 * (after[0] - before[0]) / (after[1] - before[1])
 
 
-def memory_percent():
-    """Memory in use, as free(1) counts it."""
+def memory():
+    """Bytes of memory (in use, in all), as free(1) counts them."""
     with open("/proc/meminfo", encoding="ascii") as meminfo:
-        total, _, available = (int(next(meminfo).split()[1]) for _ in range(3))
-    return 100 * (total - available) / total
+        total, _, available = (int(next(meminfo).split()[1]) * 1024 for _ in range(3))
+    return total - available, total
+
+
+def memory_percent():
+    used, total = memory()
+    return 100 * used / total

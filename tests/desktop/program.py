@@ -5,6 +5,7 @@ import os
 import pathlib
 import re
 import subprocess
+import time
 import unittest
 
 from PIL import ImageChops
@@ -12,6 +13,8 @@ from PIL import ImageChops
 from desktop import Desktop, wait_until
 
 PROGRAM = os.environ.get("ZEPHRINE", "")
+SOON = 1.5  # s, long before the program gives a panel up
+X_ERROR = re.compile("X Error|BadWindow")
 
 
 class DesktopTestCase(unittest.TestCase):
@@ -27,10 +30,19 @@ def start(desktop, *arguments):
 
 def windows(desktop, process):
     """The visible windows of a process: a list of (id, x, y, width, height)."""
-    found = subprocess.run(
-        ["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)],
-        env=desktop.environment, capture_output=True, text=True, timeout=20).stdout.split()
+    found = search(desktop, "--onlyvisible", "--pid", str(process.pid))
     return [window for window in map(lambda id: geometry(desktop, id), found) if window]
+
+
+def search(desktop, *conditions):
+    """The ids of the windows that meet the conditions of `xdotool search`."""
+    def answer():
+        found = subprocess.run(["xdotool", "search", *conditions], env=desktop.environment,
+                               capture_output=True, text=True, timeout=20)
+        # It gives up, and names none, where any window goes while it looks.
+        return None if X_ERROR.search(found.stderr) else (found.stdout.split(),)
+
+    return wait_until(answer, 20, "an answer about the windows")[0]
 
 
 def geometry(desktop, window):
@@ -73,6 +85,13 @@ def press_keys(desktop, *keys):
     desktop.use_input("key", *keys)
 
 
+def press_keys_in(desktop, window, *keys):
+    """Once the window has the keyboard: before that, they would go astray."""
+    wait_until(lambda: desktop.run("xdotool", "getwindowfocus").strip() == window, 10,
+               "the keyboard at the window")
+    press_keys(desktop, *keys)
+
+
 def changed_box(before, after):
     """The box of the pixels that differ, or None."""
     return ImageChops.difference(before, after).getbbox()
@@ -87,10 +106,24 @@ def changed_area(desktop, before, area):
     return box[0] + left, box[1] + top, box[2] + left, box[3] + top
 
 
-def wait_for_item(bus, process, timeout=10):
+def wait_without_strip(desktop, process, condition, what, gone_at=None):
+    """For what comes at once rather than after a while: the program's strip, which it shows once
+    its item has been missing for three seconds, must not be there before it. Where that is since
+    `gone_at` and the panel itself was not back soon, it may have been there."""
+    is_late = gone_at is not None and time.monotonic() - gone_at > SOON
+
+    def answer():
+        if not is_late and strip(desktop, process):
+            raise AssertionError(f"the strip before {what}")
+        return condition()
+
+    return wait_until(answer, 20, what)
+
+
+def wait_for_item(bus, process, timeout=20):
     return wait_until(lambda: bus.item_of(process.pid), timeout, "the item on the bus")
 
 
 def wait_for_text(item):
     """The description, once it has a CPU figure: that takes two refreshes."""
-    return wait_until(item.text, 10, "the item's text with a CPU figure")
+    return wait_until(item.text, 20, "the item's text with a CPU figure")

@@ -2,12 +2,11 @@
 """The settings window, used the way a user does, with clicks on what a screen reader finds in it:
 the desktop needs assistive technology."""
 import json
-import subprocess
 
 import accessibility
 from accessibility import find, middle
 from desktop import wait_until
-from program import click, geometry
+from program import click, geometry, search
 
 TITLE = "Zephrine Settings"
 SIZE = (400, 310)
@@ -15,10 +14,8 @@ SIZE = (400, 310)
 
 def titled(desktop, process, title, *conditions):
     """The windows of the process that have this title: a list of (id, x, y, width, height)."""
-    found = subprocess.run(
-        ["xdotool", "search", "--all", *conditions, "--pid", str(process.pid),
-         "--name", f"^{title}$"],
-        env=desktop.environment, capture_output=True, text=True, timeout=20).stdout.split()
+    found = search(desktop, "--all", *conditions, "--pid", str(process.pid),
+                   "--name", f"^{title}$")
     return [window for window in map(lambda id: geometry(desktop, id), found) if window]
 
 

@@ -13,6 +13,15 @@ def wait_for_strip(desktop, process):
     return wait_until(lambda: strip(desktop, process), 10, "the strip")
 
 
+def wait_for_strip_at(desktop, process, left, top):
+    """The strip, once it is within two pixels of that place."""
+    def strip_there():
+        found = strip(desktop, process)
+        return found and abs(found[1] - left) <= 2 and abs(found[2] - top) <= 2 and found
+
+    return wait_until(strip_there, 10, f"the strip at {left}, {top}")
+
+
 def middle(window):
     _, x, y, width, height = window
     return x + width // 2, y + height // 2

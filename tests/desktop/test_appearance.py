@@ -40,8 +40,11 @@ def settings_manager(desktop, theme):
 class AppearanceTest(DesktopTestCase):
     def assert_all_become(self, desktop, shown, dark):
         for name, find in shown.items():
+            wait_until(find, 20, name)
+        for name, find in shown.items():
+            # Sooner than a refresh may come.
             wait_until(lambda: (window := find()) and is_dark(desktop, window) is dark
-                       and has_legible_text(desktop, window), 2,
+                       and has_legible_text(desktop, window), 4,
                        f"{name}, {'dark' if dark else 'light'}, with text to be read")
 
     def test_everything_follows_while_it_is_on_screen(self):

@@ -4,7 +4,6 @@
 controls do."""
 import contextlib
 import re
-import subprocess
 import time
 import unittest
 
@@ -15,7 +14,7 @@ from accessibility import find, middle, rows
 from bus import Bus
 from desktop import wait_until
 from program import (PROGRAM, DesktopTestCase, changed_box, click, dashboard, press_keys,
-                     wait_for_item, wait_for_text, windows)
+                     press_keys_in, search, wait_for_item, wait_for_text, windows)
 
 PANEL = (0, 0, 1000, 28)
 SETTLE = 1.0  # s, in which something that must not happen would have happened
@@ -65,9 +64,7 @@ class DashboardTestCase(DesktopTestCase):
         accessibility.act(self.desk, self.program, "radio button", segment, "Toggle")
 
     def window_called(self, title):
-        return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"],
-                              env=self.desk.environment, capture_output=True, text=True,
-                              timeout=20).stdout.strip()
+        return next(iter(search(self.desk, "--onlyvisible", "--name", f"^{title}$")), None)
 
 
 class OpeningAndClosing(DashboardTestCase):
@@ -126,6 +123,7 @@ class OpeningAndClosing(DashboardTestCase):
             wait_until(lambda: processes.own_memory(gone.pid) > processes.GIGABYTE, 20,
                        "the memory in use")
             item = wait_for_item(self.bus, self.program)
+            first_is_over = time.monotonic() + CAPTURE + 1
             for _ in range(2):  # each leaves a capture under way, or waiting for the one before
                 item.activate(0, 0)
                 self.wait_until_open()
@@ -134,7 +132,6 @@ class OpeningAndClosing(DashboardTestCase):
                 self.wait_until_closed()
             item.activate(0, 0)
             self.wait_until_open()
-            first_is_over = time.monotonic() + CAPTURE + 1
             while time.monotonic() < first_is_over:
                 self.assertNotIn(f"PID {gone.pid}", str(self.rows()))
             gone.kill()  # seen by the first capture, not by that of this opening
@@ -183,7 +180,7 @@ class InspectionWindow(DashboardTestCase):
 
     def test_it_is_an_ordinary_window_of_fixed_size(self):
         with self.running("--inspect"):
-            window = self.window_called(self.TITLE)
+            window = wait_until(lambda: self.window_called(self.TITLE), 5, "the window")
             hints = self.desk.run("xprop", "-id", window, "WM_NORMAL_HINTS", "_NET_WM_WINDOW_TYPE",
                                   "_NET_WM_ALLOWED_ACTIONS", "_NET_FRAME_EXTENTS",
                                   "_MOTIF_WM_HINTS")
@@ -196,13 +193,13 @@ class InspectionWindow(DashboardTestCase):
             self.assertFalse(int(functions[1], 16) & MINIMISE, "no button to minimise it")
             frame = re.search(r"_NET_FRAME_EXTENTS\(CARDINAL\) = \d+, \d+, (\d+)", hints)
             self.assertGreater(int(frame[1]), 10, "a title bar")
-            self.assertEqual(dashboard(self.desk, self.program)[3:], (360, 660))
+            self.assertEqual(self.wait_until_open()[3:], (360, 660))
 
     def test_it_follows_the_process_list_until_it_is_closed(self):
         with self.running("--inspect"):
             wait_until(lambda: all(SHARE.fullmatch(value) for _, value in self.rows()), 10,
                        "shares in the rows")
-            press_keys(self.desk, "alt+F4")
+            press_keys_in(self.desk, self.wait_until_open()[0], "alt+F4")
             self.wait_until_closed()
             wait_for_item(self.bus, self.program)
 

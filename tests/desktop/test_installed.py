@@ -10,7 +10,7 @@ import tempfile
 import unittest
 
 from desktop import wait_until
-from program import DesktopTestCase
+from program import DesktopTestCase, search
 
 BUILD = os.environ["ZEPHRINE_BUILD"]
 
@@ -50,17 +50,12 @@ class Installed(DesktopTestCase):
 
 
 def count_windows(desktop):
-    return len(windows(desktop, "--class", "zephrine"))
+    return len(search(desktop, "--onlyvisible", "--class", "zephrine"))
 
 
 def titles(desktop):
     return [desktop.run("xdotool", "getwindowname", window).strip()
-            for window in windows(desktop, "--name", "Zephrine")]
-
-
-def windows(desktop, *criterion):
-    return subprocess.run(["xdotool", "search", "--onlyvisible", *criterion], capture_output=True,
-                          env=desktop.environment, text=True, timeout=20).stdout.split()
+            for window in search(desktop, "--onlyvisible", "--name", "Zephrine")]
 
 
 if __name__ == "__main__":

@@ -135,6 +135,8 @@ class Failures(LoginItemTestCase):
 
         names = [element["name"] for element in wait_until(alert, 10, "the alert")]
         self.assertIn(words, names)
+        wait_until(lambda: any("focused" in element["states"] for element in alert() or []), 10,
+                   "the keyboard at the alert")
         self.desk.run("xdotool", "key", "Return")
         wait_until(lambda: not alert(), 5, "the alert's end")
         self.assertIsNone(program.poll())

@@ -44,7 +44,8 @@ class ProcessList(DesktopTestCase):
             while time.monotonic() < deadline:
                 clock.note()
                 time.sleep(0.02)
-            rows = read()
+            rows = wait_until(lambda: row_of(burner, now := read()) and now, 20,
+                              "the busy process still in the list")
             clock.note()
             name, value = row_of(burner, rows)
             shown = float(value["name"].rstrip("%"))
@@ -60,9 +61,9 @@ class ProcessList(DesktopTestCase):
         with processes.holding(GIGABYTE) as holder, self.shown() as (read, sort_by):
             wait_until(lambda: own_memory(holder.pid) > GIGABYTE, 20, "the memory in use")
             sort_by("RAM")
-            wait_until(lambda: (row := row_of(holder, read())) and row[1]["name"].endswith(" GB"),
-                       20, "the large process in the list")
-            rows = read()
+            rows = wait_until(lambda: (row := row_of(holder, now := read()))
+                              and row[1]["name"].endswith(" GB") and now,
+                              20, "the large process in the list")
             row = row_of(holder, rows)
             shown = float(row[1]["name"].removesuffix(" GB"))
             counted = int(processes.ps("rss", holder.pid)) * 1024 / GIGABYTE

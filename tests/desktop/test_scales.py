@@ -5,7 +5,6 @@ rather than made larger, and the dashboard opens beside it. In the panel that ZE
 and at every scale; where none is named, in a few panels at one scale each."""
 import math
 import os
-import time
 import unittest
 
 import hosts
@@ -47,7 +46,6 @@ class Scales(DesktopTestCase):
             desktop.environment[variable] = str(scale)
         desktop.environment["QT_SCALE_FACTOR"] = str(scale)
         hosts.BY_NAME[name].start(desktop)
-        time.sleep(1)  # it answers on the bus before it has drawn itself
         area = (0, 0, CLOCK.get((name, scale), WIDTH), HEIGHT)
         empty = desktop.settled_picture(area)
         program = desktop.start(PROGRAM)
@@ -78,7 +76,6 @@ class Scales(DesktopTestCase):
             split_screen(desktop, (WIDTH // 2, WIDTH // 2), height=HEIGHT)
             hosts.trayer(desktop, "--monitor", "1", "--height", "52")
             area = (WIDTH // 2, 0, WIDTH, 60)
-            time.sleep(1)  # until the tray is there
             empty = desktop.settled_picture(area)
             desktop.start(PROGRAM, environment={
                 "QT_SCREEN_SCALE_FACTORS": "monitor-0=1;monitor-1=2"})
@@ -105,10 +102,12 @@ class Scales(DesktopTestCase):
             small = wait_for_strip(desktop, program)
             wait_until(lambda: sharp_strip(desktop, empty, small, 1), 10, "the strip")
             drag(desktop, middle(small), (WIDTH * 3 // 4, HEIGHT // 2))
-            large = wait_until(lambda: (now := strip(desktop, program))[3] > small[3] and now,
-                               5, "a larger strip")
+            large = wait_until(lambda: (now := strip(desktop, program)) and now[3] > small[3]
+                               and now, 10, "a larger strip")
             self.assertEqual(large[3:], (2 * small[3], 2 * small[4]))
-            wait_until(lambda: sharp_strip(desktop, empty, large, 2), 2, "all of the strip, sharp")
+            # It may be on its way still.
+            wait_until(lambda: (now := strip(desktop, program))
+                       and sharp_strip(desktop, empty, now, 2), 4, "all of the strip, sharp")
 
 
 def sharp_strip(desktop, empty, window, scale):

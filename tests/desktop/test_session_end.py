@@ -24,7 +24,8 @@ class SessionEnd(DesktopTestCase):
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
             with self.subTest(number), self.running():
                 self.program.send_signal(number)
-                wait_until(lambda: not self.bus.item_of(self.program.pid), 2, "the item's end")
+                wait_until(lambda: not self.bus.item_of(self.program.pid), 10,
+                           "the item's end")
                 self.assertEqual(self.program.wait(timeout=5), 0)
 
     def test_an_ignored_signal_is_ignored(self):

@@ -10,7 +10,7 @@ import heavy_hosts
 import sway_hosts
 from desktop import wait_until
 from program import DesktopTestCase, click, dashboard, press_keys, start, strip
-from strips import covers, drag, film, is_seen, middle
+from strips import covers, drag, film, is_seen, middle, wait_for_strip
 
 
 def gnome(desktop):
@@ -51,11 +51,13 @@ class StripInCompositors(DesktopTestCase):
                 x, y = middle(window)
                 drag(desktop, (x, y), (x - 300, y + 200))
                 place = (window[1] - 300, window[2] + 200)
-                wait_until(lambda: strip(desktop, program)[1:3] == place, 5, "the other place")
+                wait_until(lambda: (now := strip(desktop, program)) and now[1:3] == place, 10,
+                           "the other place")
 
             with self.subTest("clicked"):
-                _, left, top, width, height = strip(desktop, program)
-                click(desktop, middle(strip(desktop, program)))
+                window = wait_for_strip(desktop, program)
+                _, left, _, width, _ = window
+                click(desktop, middle(window))
 
                 def is_beside():
                     opened = dashboard(desktop, program)
@@ -66,7 +68,7 @@ class StripInCompositors(DesktopTestCase):
                 wait_until(is_beside, 5, "the dashboard beside the strip")
 
             with self.subTest("clicked again"):
-                click(desktop, middle(strip(desktop, program)))
+                click(desktop, middle(wait_for_strip(desktop, program)))
                 wait_until(lambda: not dashboard(desktop, program), 5, "the dashboard's end")
 
 

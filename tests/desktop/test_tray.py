@@ -12,17 +12,17 @@ from program import DesktopTestCase, item_in_tray, start, strip
 
 class TrayOfX11(DesktopTestCase):
     def test_the_item_is_back_in_a_tray_that_has_put_it_out(self):
-        with self.desktop() as desktop:
+        with self.desktop(window_manager=False) as desktop:
             manager = start_tray(desktop)
             program = start(desktop)
             first = wait_for_item_in_tray(desktop)
             for _ in range(3):
                 manager.send_signal(signal.SIGUSR1)
                 first = wait_for_item_in_tray(desktop, other_than=first)
-            self.assertIsNone(strip(desktop, program))
+            wait_until(lambda: not strip(desktop, program), 5, "no strip beside it")
 
     def test_the_item_moves_on_to_the_next_tray(self):
-        with self.desktop() as desktop:
+        with self.desktop(window_manager=False) as desktop:
             manager = start_tray(desktop)
             program = start(desktop)
             first = wait_for_item_in_tray(desktop)
@@ -30,11 +30,18 @@ class TrayOfX11(DesktopTestCase):
             manager.wait()
             start_tray(desktop)
             wait_for_item_in_tray(desktop, other_than=first)
-            self.assertIsNone(strip(desktop, program))
+            wait_until(lambda: not strip(desktop, program), 5, "no strip beside it")
 
 
-def start_tray(desktop):
-    return desktop.start(sys.executable, tray.__file__)
+    def test_the_strip_takes_over_where_the_tray_puts_the_item_out_again_and_again(self):
+        with self.desktop(window_manager=False) as desktop:
+            start_tray(desktop, "refusing")
+            program = start(desktop)
+            wait_until(lambda: strip(desktop, program), 30, "the strip")
+
+
+def start_tray(desktop, *options):
+    return desktop.start(sys.executable, tray.__file__, *options)
 
 
 def wait_for_item_in_tray(desktop, other_than=None):

@@ -32,7 +32,7 @@ class Wake(DesktopTestCase):
             self.assertTrue(item.text(), "nothing happens before the sleep")
 
             logind.prepare_for_sleep(False)
-            wait_until(lambda: item.text() is None, 3, "a text without a processor figure")
+            wait_until(lambda: item.text() is None, 4, "a text without a processor figure")
             self.assertRegex("\n".join(item.get("ToolTip")[2:]), "CPU +— ")
             before = ticks()
             text = wait_until(item.text, 10, "a figure")

@@ -1,9 +1,13 @@
 # SPDX-License-Identifier: MIT
-"""tray.py: a tray of X11 at the top left of the screen, which puts all windows out on SIGUSR1, as
-some panels do while they make themselves anew, and takes them in when they ask again.
+"""tray.py [refusing]: a tray of X11 at the top left of the screen, which puts all windows out on
+SIGUSR1, as some panels do while they make themselves anew, and takes them in when they ask again;
+`refusing`, it puts them out at once.
 https://specifications.freedesktop.org/systemtray-spec"""
 import ctypes
 import signal
+import sys
+
+from x11 import Display
 
 CLIENT_MESSAGE = 33
 STRUCTURE_NOTIFY = 1 << 17
@@ -19,27 +23,19 @@ class ClientMessage(ctypes.Structure):
 
 class Tray:
     def __init__(self):
-        self._x11 = ctypes.CDLL("libX11.so.6")
-        self._x11.XOpenDisplay.restype = ctypes.c_void_p
-        self._x11.XDefaultRootWindow.restype = ctypes.c_ulong
-        self._x11.XCreateSimpleWindow.restype = ctypes.c_ulong
-        self._x11.XInternAtom.restype = ctypes.c_ulong
-        self._display = ctypes.c_void_p(self._x11.XOpenDisplay(None))
-        self._root = ctypes.c_ulong(self._x11.XDefaultRootWindow(self._display))
-        self._window = ctypes.c_ulong(self._x11.XCreateSimpleWindow(
-            self._display, self._root, 0, 0, *ICON, 0, 0, 0xe8e8e8))
+        self._server = Display()
+        self._x11, self._display, self._root = \
+            self._server.x11, self._server.pointer, self._server.root
+        self._window = self._server.new_window(*ICON, colour=0xe8e8e8)
         self._x11.XMapWindow(self._display, self._window)
         self._icons = []
         self._announce()
 
-    def _atom(self, name):
-        return ctypes.c_ulong(self._x11.XInternAtom(self._display, name, False))
-
     def _announce(self):
-        tray = self._atom(b"_NET_SYSTEM_TRAY_S0")
-        self._x11.XSetSelectionOwner(self._display, tray, self._window, 0)
+        self._server.take_tray(self._window)
+        tray = self._server.atom("_NET_SYSTEM_TRAY_S0")
         news = ClientMessage(type=CLIENT_MESSAGE, window=self._root,
-                             message=self._atom(b"MANAGER"), format=32,
+                             message=self._server.atom("MANAGER"), format=32,
                              data=(0, tray.value, self._window.value, 0, 0))
         self._x11.XSendEvent(self._display, self._root, False, STRUCTURE_NOTIFY,
                              ctypes.byref(news))
@@ -52,7 +48,7 @@ class Tray:
 
     def serve(self):
         event = ClientMessage()
-        opcode = self._atom(b"_NET_SYSTEM_TRAY_OPCODE").value
+        opcode = self._server.atom("_NET_SYSTEM_TRAY_OPCODE").value
         while self._x11.XPending(self._display):
             self._x11.XNextEvent(self._display, ctypes.byref(event))
             if event.type == CLIENT_MESSAGE and event.message == opcode:
@@ -71,7 +67,7 @@ def main():
     tray = Tray()
     while True:
         tray.serve()
-        if signal.sigtimedwait([signal.SIGUSR1], 0.02):
+        if signal.sigtimedwait([signal.SIGUSR1], 0.02) or "refusing" in sys.argv:
             tray.put_out()
 
 
