@@ -62,6 +62,38 @@ type=spacer
 type=statusnotifier
 """
 
+# Without a clock, whose width changes when it pleases, and moves what stands beside it.
+MATE_PANEL = """[org/mate/panel/general]
+enable-sni-support=true
+toplevel-id-list=['top']
+object-id-list=['menu-bar', 'notification-area']
+
+[org/mate/panel/toplevels/top]
+expand=true
+orientation='top'
+size=24
+
+[org/mate/panel/objects/menu-bar]
+object-type='menu-bar'
+toplevel-id='top'
+position=0
+locked=true
+
+[org/mate/panel/objects/notification-area]
+object-type='applet'
+applet-iid='NotificationAreaAppletFactory::NotificationArea'
+toplevel-id='top'
+position=0
+relative-to-edge='end'
+locked=true
+"""
+
+# Without the handle of the tray, which is drawn once there have been items, and moves with them.
+MATE_STYLE = """MatePanelAppletFrameDBus > MatePanelAppletFrameDBus {
+  background-image: none;
+}
+"""
+
 TINT2_PANEL = """panel_items = TS
 panel_position = top center horizontal
 panel_size = 100% 30
@@ -117,9 +149,16 @@ def lxqt(desktop, edge="bottom", colour="#e8e8e8", monitor=0):
 
 
 def mate(desktop):
-    """The panels of MATE; the upper one has the tray, which takes items only where told to."""
+    """The upper panel of MATE, whose tray takes items only where told to."""
     desktop.environment["GSETTINGS_BACKEND"] = "keyfile"
-    desktop.run("gsettings", "set", "org.mate.panel", "enable-sni-support", "true")
+    stored = desktop.config / "glib-2.0/settings/keyfile"
+    told = stored.read_text(encoding="utf-8") if stored.exists() else ""
+    if "toplevel-id-list" not in told:
+        stored.parent.mkdir(parents=True, exist_ok=True)
+        stored.write_text(MATE_PANEL + told, encoding="utf-8")
+        style = desktop.config / "gtk-3.0/gtk.css"
+        style.parent.mkdir(exist_ok=True)
+        style.write_text(MATE_STYLE, encoding="utf-8")
     panel = desktop.start("mate-panel")
     wait_for_watcher(desktop)
     wait_until_drawn(desktop, panel)
@@ -176,7 +215,7 @@ TOP = (0, 0, 1000, 32)
 BY_NAME = {
     "xfce": Host(xfce, TOP),
     "lxqt": Host(lxqt, (0, 728, 1000, 760)),
-    "mate": Host(mate, (500, 0, 870, 27)),
+    "mate": Host(mate, (500, 0, 1000, 27)),
     "trayer": Host(trayer, TOP),
     "tint2": Host(tint2, TOP),
     "none": Host(none, TOP),

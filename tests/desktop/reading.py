@@ -6,12 +6,13 @@ import re
 import subprocess
 import tempfile
 
-from PIL import Image, ImageChops, ImageOps, ImageStat
+from PIL import Image, ImageOps, ImageStat
+
+from ink import closed_up
 
 MAGNIFICATIONS = (5, 6, 4)  # of text of nine points on an ordinary screen
 MARGIN = 24
 CHARACTERS = "0123456789.% CPURAMGB"
-COLOURFUL = 24  # how far the parts of a colour are apart, of 255, that is no grey
 
 
 def figures(picture, scale=1):
@@ -23,8 +24,8 @@ def figures(picture, scale=1):
 def readings(picture, scale=1):
     """The same as it is read at one magnification after the other: each is mistaken now and then,
     and hardly ever are all of them."""
-    grey = without_colour(picture)
-    return (numbers_in(characters(grey, times / scale)) for times in MAGNIFICATIONS)
+    text = closed_up(picture, scale)
+    return (numbers_in(characters(text, times / scale)) for times in MAGNIFICATIONS)
 
 
 def shows(text, number):
@@ -33,20 +34,6 @@ def shows(text, number):
     digits = str(number)
     return len(text) == len(digits) and all(
         read == digit or (digit == "0" and read in "68") for read, digit in zip(text, digits))
-
-
-def without_colour(picture):
-    """The picture in grey. The dot of the memory pressure, which is taken for all sorts of
-    characters, is background."""
-    parts = picture.split()
-    most = ImageChops.lighter(ImageChops.lighter(parts[0], parts[1]), parts[2])
-    least = ImageChops.darker(ImageChops.darker(parts[0], parts[1]), parts[2])
-    apart = ImageChops.subtract(most, least)
-    surface = ImageStat.Stat(apart).median[0]  # some panels are colourful
-    colourful = apart.point(lambda value: 255 * (value > surface + COLOURFUL))
-    grey = picture.convert("L")
-    grey.paste(ImageStat.Stat(grey).median[0], mask=colourful)
-    return grey
 
 
 def characters(grey, times):

@@ -27,8 +27,6 @@ SHORT = {"none": (1.25,), "lxqt": (1.5,), "xfce": (2,)}
 SHARP = {"none": 0.82, "lxqt": 0.82, "xfce": 0.82, "mate": 0.7}
 # Likewise of text made larger by a quarter, pixel for pixel; else no two rows are the same.
 REPETITIVE = 0.1
-# Where the clock begins, which changes when it pleases.
-CLOCK = {("mate", 1): 1283, ("mate", 2): 1325}
 
 
 class Scales(DesktopTestCase):
@@ -46,12 +44,11 @@ class Scales(DesktopTestCase):
             desktop.environment[variable] = str(scale)
         desktop.environment["QT_SCALE_FACTOR"] = str(scale)
         hosts.BY_NAME[name].start(desktop)
-        area = (0, 0, CLOCK.get((name, scale), WIDTH), HEIGHT)
-        empty = desktop.settled_picture(area)
+        empty = desktop.settled_picture()
         program = desktop.start(PROGRAM)
 
         def legible_item():
-            box = changed_box(empty, desktop.picture(area))
+            box = changed_box(empty, desktop.picture())
             return box if box and len(figures(desktop.picture(with_margin(box)), scale)) == 2 \
                 else None
 
