@@ -2,11 +2,14 @@
 """Pictures of an item made ready for optical character recognition: grey characters in lines that
 stand close together. Blanks as wide as those before a figure of one digit are filled with
 characters of its own making, and a dot or an edge with others."""
+import itertools
+
 from PIL import Image, ImageChops, ImageDraw, ImageStat
 
 COLOURFUL = 24  # how far the parts of a colour are apart, of 255, that is no grey
 INK = 60        # how far a character's grey is from its background's at least
-BLANK = 4       # the widest blank, in pixels of an ordinary screen
+# In pixels of an ordinary screen:
+BLANK = 4       # the widest blank in a line
 BETWEEN_LINES = 3
 
 
@@ -14,15 +17,14 @@ def closed_up(picture, scale=1):
     """The picture in grey, with its lines of characters alone, and narrow blanks within them."""
     grey = without_surroundings(without_colour(picture))
     background = median(grey)
-    lines = [closed_up_line(grey.crop((0, top, grey.width, bottom)), background, BLANK * scale)
-             for top, bottom in spans(ink(grey, background).transpose(Image.Transpose.TRANSPOSE))]
-    height = sum(line.height + BETWEEN_LINES * scale for line in lines)
-    text = Image.new("L", (max((line.width for line in lines), default=1), max(1, height)),
+    rows = spans(ink(grey, background).transpose(Image.Transpose.TRANSPOSE))
+    lines = [closed_up_line(grey.crop((0, top, grey.width, bottom)), background,
+                            round(BLANK * scale)) for top, bottom in rows]
+    advances = [line.height + round(BETWEEN_LINES * scale) for line in lines]
+    text = Image.new("L", (max((line.width for line in lines), default=1), max(1, sum(advances))),
                      background)
-    top = 0
-    for line in lines:
+    for line, top in zip(lines, itertools.accumulate(advances, initial=0)):
         text.paste(line, (0, top))
-        top += line.height + BETWEEN_LINES * scale
     return text
 
 
@@ -42,7 +44,8 @@ def without_colour(picture):
     most = ImageChops.lighter(ImageChops.lighter(parts[0], parts[1]), parts[2])
     least = ImageChops.darker(ImageChops.darker(parts[0], parts[1]), parts[2])
     apart = ImageChops.subtract(most, least)
-    colourful = apart.point(lambda value: 255 * (value > median(apart) + COLOURFUL))  # some panels are
+    surface = median(apart)  # some panels are colourful
+    colourful = apart.point(lambda value: 255 * (value > surface + COLOURFUL))
     grey = picture.convert("L")
     grey.paste(median(grey), mask=colourful)
     return grey
