@@ -1,8 +1,10 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The item in a tray of X11 that is not always there for it."""
+import pathlib
 import signal
 import sys
+import time
 import unittest
 
 import tray
@@ -32,16 +34,33 @@ class TrayOfX11(DesktopTestCase):
             wait_for_item_in_tray(desktop, other_than=first)
             wait_until(lambda: not strip(desktop, program), 5, "no strip beside it")
 
-
     def test_the_strip_takes_over_where_the_tray_puts_the_item_out_again_and_again(self):
         with self.desktop(window_manager=False) as desktop:
             start_tray(desktop, "refusing")
             program = start(desktop)
             wait_until(lambda: strip(desktop, program), 30, "the strip")
 
+    def test_a_tray_that_no_longer_wants_the_item_is_asked_ever_more_seldom(self):
+        with self.desktop(window_manager=False) as desktop:
+            manager = start_tray(desktop)
+            start(desktop)
+            wait_for_item_in_tray(desktop)
+            time.sleep(11)  # long enough for the tray to be trusted
+            before = times_asked(desktop)
+            manager.send_signal(signal.SIGUSR2)
+            time.sleep(9)
+            asked = times_asked(desktop) - before
+            self.assertGreater(asked, 1)
+            self.assertLess(asked, 8, "twice a second, it would be 18 times")
+
 
 def start_tray(desktop, *options):
     return desktop.start(sys.executable, tray.__file__, *options)
+
+
+def times_asked(desktop):
+    log = desktop.logs / (pathlib.Path(sys.executable).name + ".log")
+    return log.read_text(encoding="utf-8").count("asked")
 
 
 def wait_for_item_in_tray(desktop, other_than=None):

@@ -189,6 +189,7 @@ void TrayItem::lost(unsigned docking) {
     }
     leaveTray();
     const bool hasStoodAWhile = docked_.isValid() && docked_.hasExpired(kWhile.count());
+    docked_.invalidate();  // the next tray may not even give it a place
     pause_.start(hasStoodAWhile ? kPause : nextPause_);
     nextPause_ = std::min(2 * pause_.intervalAsDuration(), kLongestPause);
 }
