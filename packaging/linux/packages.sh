@@ -21,6 +21,7 @@ desktop_packages=(
 test_packages=(
     libgtest-dev libgmock-dev clang-format-14
     locales ccache procps python3 strace
+    fonts-cantarell fonts-inter
 )
 
 # The panels that the status item is tried on, a load to show, and what reads windows: off the

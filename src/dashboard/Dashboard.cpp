@@ -30,6 +30,7 @@ Dashboard::Dashboard(Application& application, const Formatting& formatting)
     : application_(application),
       formatting_(formatting),
       widgets_(application.widgets()),
+      words_(application.vocabulary()),
       view_(widgets_.makeView(viewFrame)),
       cpu(widgets_.makeLabel("—")),
       ram(widgets_.makeLabel("—")),
@@ -71,7 +72,8 @@ void Dashboard::addHeader() {
     view_->addSubview(*icon);
     fixedViews_.push_back(std::move(icon));
     addText({70, 620, 260, 24}, "Zephrine", semibold(20), Color::labelColor);
-    addText({70, 600, 260, 18}, "Your Mac, at a glance.", system(11), Color::secondaryLabelColor);
+    addText({70, 600, 260, 18}, "Your " + std::string(words_.machine) + ", at a glance.",
+            system(11), Color::secondaryLabelColor);
 }
 
 void Dashboard::addReadings() {

@@ -51,6 +51,7 @@ private:
     Application& application_;
     const Formatting& formatting_;
     WidgetFactory& widgets_;
+    const Vocabulary& words_;
     std::unique_ptr<View> view_;
     std::vector<std::unique_ptr<View>> fixedViews_;  ///< what is never touched after loading
 

@@ -25,7 +25,8 @@ void Dashboard::update(std::optional<double> cpuPercent, const std::optional<Mem
     cpu->setStringValue(percentText(cpuPercent));
     ram->setStringValue(percentText(percentOf(memory)));
     gpu->setStringValue(percentText(gpuPercent));
-    gpuDetail->setStringValue(gpuPercent ? "Driver-reported usage" : "Not available on this Mac");
+    gpuDetail->setStringValue(gpuPercent ? "Driver-reported usage"
+                                         : std::string(words_.unavailable));
     ramDetail->setStringValue(memoryDetail(memory));
 
     pressure->setStringValue("●  Memory pressure: " + std::string(title(level)));
@@ -38,7 +39,7 @@ void Dashboard::update(std::optional<double> cpuPercent, const std::optional<Mem
         gpu->stringValue() + ". " + std::to_string(readings.samples.size()) + " recent samples.");
 
     cadence->setStringValue("Updates every " + formatting_.localizedNumber(interval) +
-                            "s · Everything stays on your Mac");
+                            "s · Everything stays on your " + std::string(words_.machine));
 }
 
 }  // namespace zephrine

@@ -11,6 +11,7 @@
 #include "platform/LaunchOptions.h"
 #include "platform/RunLoop.h"
 #include "platform/StatusBar.h"
+#include "platform/Vocabulary.h"
 #include "platform/Widgets.h"
 #include "platform/Windows.h"
 
@@ -46,6 +47,8 @@ public:
     virtual void observeDidWake(std::function<void()> handler) = 0;
     /// `handler` is called after every change of the system's appearance; never removed.
     virtual void observeThemeChanged(std::function<void()> handler) = 0;
+
+    [[nodiscard]] virtual const Vocabulary& vocabulary() const = 0;
 
     virtual RunLoop& runLoop() = 0;
     virtual BackgroundWorker& backgroundWorker() = 0;

@@ -36,7 +36,8 @@ SettingsWindow::SettingsWindow(Application& application)
     view_->addSubview(*loginStatus);
 
     ramDisplay = addRow(156, "RAM display", {"Percentage", "Gigabytes"});
-    fontSize = addRow(113, "Menu bar text", preferences::fontSize.titles());
+    fontSize = addRow(113, std::string(application.vocabulary().bar) + " text",
+                      preferences::fontSize.titles());
     refreshInterval = addRow(70, "Refresh interval", preferences::refreshInterval.titles());
     addLabel({24, 21, 350, 20}, "Slower refresh rates use less energy.",
              Font{FontFamily::system, 11}, Color::secondaryLabelColor);

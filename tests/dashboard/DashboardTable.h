@@ -37,7 +37,8 @@ inline DashboardElement plain(const Rect& frame, std::string text, const Font& f
 }
 
 // NOLINTNEXTLINE(readability-function-size): a table, and nothing else
-inline std::vector<DashboardElement> dashboardTable() {
+inline std::vector<DashboardElement> dashboardTable(
+    const std::string& tagline = "Your Mac, at a glance.") {
     using enum FontWeight;
     const auto secondary = Color::secondaryLabelColor;
     const Font figures{FontFamily::monospacedDigit, 27, medium};
@@ -46,7 +47,7 @@ inline std::vector<DashboardElement> dashboardTable() {
     std::vector<DashboardElement> table{
         {.kind = "image", .frame = {20, 599, 40, 40}},
         styled({70, 620, 260, 24}, "Zephrine", 20, semibold, Color::labelColor),
-        styled({70, 600, 260, 18}, "Your Mac, at a glance.", 11, regular, secondary),
+        styled({70, 600, 260, 18}, tagline, 11, regular, secondary),
         styled({20, 568, 95, 16}, "CPU", 10, semibold, Color::systemBlueColor),
         plain({20, 530, 110, 34}, "—", figures, Color::labelColor),
         styled({130, 568, 95, 16}, "RAM", 10, semibold, Color::systemGreenColor),

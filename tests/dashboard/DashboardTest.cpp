@@ -5,6 +5,7 @@
 
 #include "app/ControllerTest.h"
 #include "dashboard/DashboardTable.h"
+#include "platform/qt/DesktopVocabulary.h"
 
 namespace zephrine {
 namespace {
@@ -47,6 +48,12 @@ TEST_F(DashboardTest, HoldsItsElementsInOrderWithTheirFramesFontsColorsAndTexts)
             EXPECT_EQ(button->title, table[i].text);
         }
     }
+}
+
+TEST_F(DashboardTest, CallsTheMachineWhatItsSystemDoes) {
+    platform.application.words = desktopVocabulary;
+    dashboard.loadView();
+    EXPECT_EQ(child<FakeLabel>(1).text, "Your computer, at a glance.");
 }
 
 TEST_F(DashboardTest, ItsFieldsAreTheLabelsOnScreen) {

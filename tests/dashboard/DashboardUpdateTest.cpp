@@ -3,6 +3,7 @@
 
 #include "dashboard/Dashboard.h"
 #include "fakes/FakePlatform.h"
+#include "platform/qt/DesktopVocabulary.h"
 
 namespace zephrine {
 namespace {
@@ -63,6 +64,14 @@ TEST_F(DashboardUpdateTest, RoundsToWholePercentWithoutPadding) {
 TEST_F(DashboardUpdateTest, WritesTheIntervalInTheUsersNumberFormat) {
     dashboard.update({}, {}, {}, MemoryPressure::normal, {}, 0.5);
     EXPECT_EQ(label(dashboard.cadence).text, "Updates every 0,5s · Everything stays on your Mac");
+}
+
+TEST_F(DashboardUpdateTest, CallsTheMachineWhatItsSystemDoes) {
+    platform.application.words = desktopVocabulary;
+    dashboard.update({}, {}, {}, MemoryPressure::normal, {}, 2);
+    EXPECT_EQ(label(dashboard.gpuDetail).text, "Not available here");
+    EXPECT_EQ(label(dashboard.cadence).text,
+              "Updates every 2s · Everything stays on your computer");
 }
 
 TEST_F(DashboardUpdateTest, LeavesTheProcessListAlone) {

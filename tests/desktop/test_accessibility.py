@@ -17,12 +17,12 @@ from program import DesktopTestCase, dashboard, press_keys, start, wait_for_item
 PERCENT = r"\d+%|—"
 ELEMENTS = [
     ("image", ""),
-    ("label", "Zephrine"), ("label", "Your Mac, at a glance\\."),
+    ("label", "Zephrine"), ("label", "Your computer, at a glance\\."),
     ("label", "CPU"), ("label", PERCENT),
     ("label", "RAM"), ("label", PERCENT),
     ("label", "GPU"), ("label", PERCENT),
     ("label", "Total capacity"), ("label", r"\d+\.\d / \d+ GB"),
-    ("label", "Driver-reported usage|Not available on this Mac"),
+    ("label", "Driver-reported usage|Not available here"),
     ("label", "●  Memory pressure: (Normal|Elevated|High|Unavailable)"),
     ("label", "LAST 5 MINUTES"), ("label", "100%"),
     ("image", "CPU, memory and GPU usage history for the last five minutes"),
@@ -33,7 +33,7 @@ ELEMENTS = [
     ("label", "Accessible processes · CPU share of total capacity"),
     ("separator", ""),
     ("push button", "Settings…"), ("push button", "Quit"),
-    ("label", "Updates every 1s · Everything stays on your Mac"),
+    ("label", "Updates every 1s · Everything stays on your computer"),
 ]
 
 

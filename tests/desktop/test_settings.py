@@ -113,14 +113,14 @@ class Settings(SettingsTestCase):
     def test_the_next_start_opens_on_the_choices(self):
         with self.opened():
             self.choose("RAM display", "Gigabytes")
-            self.choose("Menu bar text", "Large")
+            self.choose("Panel text", "Large")
             self.program.terminate()
             self.assertEqual(self.program.wait(timeout=5), 0)
             self.program = start(self.desk, "--show-settings")
             settings.wait_for_window(self.desk, self.program)
             chosen = wait_until(lambda: self.spoken("combo box"), 5, "the settings' elements")
             self.assertEqual({name: e["description"] for name, e in chosen.items()},
-                             {"RAM display": "Gigabytes", "Menu bar text": "Large",
+                             {"RAM display": "Gigabytes", "Panel text": "Large",
                               "Refresh interval": "5 seconds"})
 
     def test_it_opens_from_the_dashboard_which_then_closes(self):
@@ -178,7 +178,7 @@ class TextSize(DesktopTestCase):
             widths = [0]
             for item, value in (("Small", ("float", "8.0")), ("Medium", ("int", "9")),
                                 ("Large", ("int", "10"))):
-                settings.choose(desktop, program, "Menu bar text", item)
+                settings.choose(desktop, program, "Panel text", item)
                 self.assertTrue(settings.is_stored(desktop, "fontSize", value))
                 wider = wait_until(lambda: (now := strip(desktop, program))
                                    and now[3] > widths[-1] and now, 5, "a wider strip")
@@ -210,7 +210,7 @@ class KeyboardOnly(SettingsTestCase):
             press_keys(self.desk, "Down")
             wait_until(lambda: self.is_stored("ramInGB", True), 5, "gigabytes")
 
-            self.tab_to("Menu bar text")
+            self.tab_to("Panel text")
             press_keys(self.desk, "space", "Down", "Return")
             wait_until(lambda: self.is_stored("fontSize", ("int", "10")), 5, "large text")
 

@@ -10,6 +10,7 @@
 #include "fakes/FakeWidgets.h"
 #include "fakes/FakeWindows.h"
 #include "platform/Application.h"
+#include "platform/macos/MacVocabulary.h"
 
 namespace zephrine {
 
@@ -26,6 +27,7 @@ public:
     int runs = 0;
     int terminations = 0;
     int activations = 0;
+    Vocabulary words = macVocabulary;
     std::function<void()> didWake;
     std::function<void()> themeChanged;
 
@@ -41,6 +43,7 @@ public:
     void observeThemeChanged(std::function<void()> handler) override {
         themeChanged = std::move(handler);
     }
+    const Vocabulary& vocabulary() const override { return words; }
     RunLoop& runLoop() override { return loop; }
     BackgroundWorker& backgroundWorker() override { return worker; }
     StatusBar& statusBar() override { return bar; }

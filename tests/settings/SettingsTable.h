@@ -20,7 +20,8 @@ struct SettingsElement {
     std::string accessibilityLabel = {};
 };
 
-inline std::vector<SettingsElement> settingsTable() {
+inline std::vector<SettingsElement> settingsTable(
+    const std::string& textSizeTitle = "Menu bar text") {
     const auto font = [](double size, FontWeight weight = FontWeight::regular) {
         return Font{FontFamily::system, size, weight};
     };
@@ -34,11 +35,11 @@ inline std::vector<SettingsElement> settingsTable() {
          .frame = {205, 156, 170, 26},
          .items = {"Percentage", "Gigabytes"},
          .accessibilityLabel = "RAM display"},
-        {"label", {24, 113, 165, 23}, "Menu bar text"},
+        {"label", {24, 113, 165, 23}, textSizeTitle},
         {.kind = "pop-up",
          .frame = {205, 113, 170, 26},
          .items = {"Small", "Medium", "Large"},
-         .accessibilityLabel = "Menu bar text"},
+         .accessibilityLabel = textSizeTitle},
         {"label", {24, 70, 165, 23}, "Refresh interval"},
         {.kind = "pop-up",
          .frame = {205, 70, 170, 26},

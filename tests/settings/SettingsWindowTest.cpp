@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "app/ControllerTest.h"
+#include "platform/qt/DesktopVocabulary.h"
 #include "settings/SettingsTable.h"
 
 namespace zephrine {
@@ -55,6 +56,14 @@ TEST_F(SettingsWindowTest, HoldsItsControlsInOrderWithTheirFramesAndTexts) {
             EXPECT_EQ(popUp->titles, table[i].items);
         }
     }
+}
+
+TEST_F(SettingsWindowTest, CallsTheBarWhatItsSystemDoes) {
+    platform.application.words = desktopVocabulary;
+    open();
+    const auto& children = fake<FakeView>(*window().content).children;
+    EXPECT_EQ(fake<FakeLabel>(*children[5]).text, "Panel text");
+    EXPECT_EQ(children[6]->accessibilityLabel, "Panel text");
 }
 
 TEST_F(SettingsWindowTest, OpensOnTheStoredChoices) {

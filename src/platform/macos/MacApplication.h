@@ -9,6 +9,7 @@
 #include "platform/macos/MacApplicationDelegate.h"
 #include "platform/macos/MacBackgroundWorker.h"
 #include "platform/macos/MacRunLoop.h"
+#include "platform/macos/MacVocabulary.h"
 #include "platform/macos/drawing/MacDrawing.h"
 #include "platform/macos/statusitem/MacStatusBar.h"
 #include "platform/macos/widgets/MacWidgetFactory.h"
@@ -33,6 +34,7 @@ public:
     void activateIgnoringOtherApps() override;
     void observeDidWake(std::function<void()> handler) override;
     void observeThemeChanged(std::function<void()> handler) override;
+    const Vocabulary& vocabulary() const override { return macVocabulary; }
     RunLoop& runLoop() override { return runLoop_; }
     BackgroundWorker& backgroundWorker() override { return backgroundWorker_; }
     StatusBar& statusBar() override { return statusBar_; }

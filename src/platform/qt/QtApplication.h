@@ -11,6 +11,7 @@
 #include "platform/Application.h"
 #include "platform/PreferenceStore.h"
 #include "platform/qt/ClickGuard.h"
+#include "platform/qt/DesktopVocabulary.h"
 #include "platform/qt/LogindSignal.h"
 #include "platform/qt/QtBackgroundWorker.h"
 #include "platform/qt/QtRunLoop.h"
@@ -46,6 +47,7 @@ public:
     void observeDidWake(std::function<void()> handler) override;
     void observeThemeChanged(std::function<void()> handler) override;
 
+    const Vocabulary& vocabulary() const override { return desktopVocabulary; }
     RunLoop& runLoop() override { return runLoop_; }
     BackgroundWorker& backgroundWorker() override { return worker_; }
     StatusBar& statusBar() override { return statusBar_; }

@@ -40,7 +40,7 @@ protected:
 
     LinuxFormatting formatting;
     Dashboard dashboard{testApplication(), formatting};
-    const std::vector<DashboardElement> table = dashboardTable();
+    const std::vector<DashboardElement> table = dashboardTable("Your computer, at a glance.");
     std::vector<QWidget*> shown;
 };
 

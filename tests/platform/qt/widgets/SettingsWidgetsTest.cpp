@@ -52,7 +52,7 @@ protected:
     }
 
     SettingsWindow settings{testApplication()};
-    const std::vector<SettingsElement> table = settingsTable();
+    const std::vector<SettingsElement> table = settingsTable("Panel text");
     std::vector<QWidget*> shown;
 };
 
