@@ -52,24 +52,24 @@ struct ItemPlacement {
     bool wantsTray = false;      ///< a tray is to be looked for, and asked when it appears
     bool asksTrayAgain = false;  ///< now, although it has let the item go
     /// When to decide again if nothing is reported before.
-    std::optional<Time> due;
+    std::optional<Time> due = std::nullopt;
 
     struct PanelMemory {
         PanelReport::State state = PanelReport::State::unknown;
         bool isGone = false;
-        std::optional<Time> missed;  ///< since when, while it is not gone
-        bool trayHasFailed = false;  ///< its tray, which was expected to take the item
+        std::optional<Time> missed = {};  ///< since when, while it is not gone
+        bool trayHasFailed = false;       ///< its tray, which was expected to take the item
     };
     struct TrayMemory {
-        TrayReport report;
+        TrayReport report = {};
         bool isGone = true;
-        std::optional<Time> missed;     ///< likewise
-        std::optional<Time> held;       ///< since when it holds the item
-        std::optional<Time> askAgain;   ///< when
-        std::optional<Duration> pause;  ///< before it was asked again last
+        std::optional<Time> missed = {};     ///< likewise
+        std::optional<Time> held = {};       ///< since when it holds the item
+        std::optional<Time> askAgain = {};   ///< when
+        std::optional<Duration> pause = {};  ///< before it was asked again last
     };
-    PanelMemory panel;
-    TrayMemory tray;
+    PanelMemory panel = {};
+    TrayMemory tray = {};
 };
 
 /// The decision that follows `before`. `patience` is how long a panel may be missing.
