@@ -45,6 +45,8 @@ public:
     virtual void setStroke(Color color) = 0;
     virtual void fillOval(const Rect& rect) = 0;
     virtual void fillRect(const Rect& rect) = 0;
+    /// Lines that go on from each other are joined as the path says; the ends of a stretch are cut
+    /// off where it ends.
     virtual void stroke(const Path& path) = 0;
     /// One line of text whose box (ascent to descent, as `TextMeasure` measures it) has its lower
     /// left corner at `origin`.

@@ -10,6 +10,7 @@ from bus import Bus
 from desktop import wait_until
 
 READER = pathlib.Path(__file__).with_name("read_accessible.py")
+LISTENER = pathlib.Path(__file__).with_name("hear_accessible.py")
 
 
 def enable(desktop):
@@ -30,8 +31,24 @@ def windows(desktop, process):
 
 
 def act(desktop, process, role, name, action):
-    """Does an action of an element, as a screen reader's user can."""
+    """Does an action of an element, as a screen reader's user can. The name is a regular expression
+    for all of it."""
     desktop.run("/usr/bin/python3", "-B", str(READER), str(process.pid), role, name, action)
+
+
+def listen(desktop, process):
+    """From now on assistive technology listens to the process. A function that tells whether it has
+    heard this line of hear_accessible.py, and after that all of those."""
+    log = desktop.logs / LISTENER.name
+    desktop.start("/bin/sh", "-c", f"exec /usr/bin/python3 -B {LISTENER} {process.pid} > {log}")
+    wait_until(log.exists, 20, "the log")
+
+    def hears(*lines):
+        heard = iter(log.read_text(encoding="utf-8").splitlines())
+        return all(line in heard for line in lines)
+
+    wait_until(lambda: hears("listening"), 20, "the listener")
+    return hears
 
 
 def dashboard(desktop, process):

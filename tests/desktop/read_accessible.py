@@ -2,8 +2,10 @@
 # SPDX-License-Identifier: MIT
 """read_accessible.py PID [ROLE NAME ACTION]: prints as JSON what assistive technology is told of
 the windows of a process; with a role, a name and an action it does that action of that element
-before. A program of its own, because the client library serves one desktop in its life."""
+before, where the name is a regular expression for all of it. A program of its own, because the
+client library serves one desktop in its life."""
 import json
+import re
 import sys
 
 import gi
@@ -47,7 +49,7 @@ def actions(element):
 
 def act(element, role, name, action):
     """Whether the element, or one within it, is that one and has done its action."""
-    if element.get_role_name() == role and element.get_name() == name:
+    if element.get_role_name() == role and re.fullmatch(name, element.get_name()):
         return element.get_action_iface().do_action(actions(element).index(action))
     children = (element.get_child_at_index(i) for i in range(element.get_child_count()))
     return any(act(child, role, name, action) for child in children if child)

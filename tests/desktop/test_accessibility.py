@@ -8,11 +8,14 @@ import unittest
 
 import accessibility
 import hosts
+import processes
 import settings
 from accessibility import find
-from bus import Bus
+from bus import TEXT, Bus
 from desktop import wait_until
-from program import DesktopTestCase, dashboard, press_keys, start, wait_for_item, wait_for_text
+from processes import GIGABYTE
+from program import (DesktopTestCase, dashboard, geometry, item_in_tray, press_keys, start, strip,
+                     wait_for_item, wait_for_text)
 
 PERCENT = r"\d+%|—"
 ELEMENTS = [
@@ -112,6 +115,94 @@ class ScreenReader(AccessibilityTestCase):
             self.assertIn(window["role"], ("window", "frame"))
         with self.opened():
             self.assertEqual(self.window("Zephrine")["role"], "dialog")
+
+
+class ItemInATray(DesktopTestCase):
+    """The window in a tray of X11 is none that Qt knows."""
+
+    def spoken(self):
+        """The one thing to press that stands in no window, or None."""
+        found = [e for e in accessibility.windows(self.desk, self.program)
+                 if e["role"] == "push button"]
+        self.assertLessEqual(len(found), 1)
+        return found[0] if found else None
+
+    def wait_for_item_at(self, place):
+        """The item, once it is spoken of as where `place`, a function, has its window."""
+        def item_there():
+            window, item = place(), self.spoken()
+            return window and item and tuple(item["box"]) == tuple(window[1:]) and item
+
+        return wait_until(item_there, 20, "the spoken item")
+
+    def place_in_tray(self):
+        window = item_in_tray(self.desk)
+        return window and geometry(self.desk, window[0])
+
+    def test_it_is_a_button_called_by_its_figures_wherever_it_stands(self):
+        with self.desktop() as self.desk:
+            accessibility.enable(self.desk)
+            tray = hosts.trayer(self.desk)
+            self.program = start(self.desk)
+            for _ in range(2):
+                self.wait_for_item_at(self.place_in_tray)
+                wait_until(lambda: TEXT.fullmatch(self.spoken()["name"]), 20, "its figures")
+                tray.kill()
+                tray.wait()
+                self.wait_for_item_at(lambda: strip(self.desk, self.program))
+                tray = hosts.trayer(self.desk)
+
+    def test_its_figures_are_kept_true(self):
+        with self.desktop() as self.desk, Bus(self.desk.bus_address) as bus:
+            accessibility.enable(self.desk)
+            hosts.trayer(self.desk)
+            self.program = start(self.desk)
+            item = wait_for_item(bus, self.program)
+            wait_for_text(item)
+            before = self.wait_for_item_at(self.place_in_tray)["name"]
+            with processes.holding(GIGABYTE):
+                wait_until(lambda: self.spoken()["name"] != before, 20, "other figures")
+                wait_until(lambda: self.spoken()["name"] == item.get("IconAccessibleDesc"), 20,
+                           "the figures that panels are told")
+
+    def test_a_screen_reader_is_told_of_its_coming_its_new_figures_and_its_going(self):
+        with self.desktop() as self.desk:
+            accessibility.enable(self.desk)
+            self.program = start(self.desk)
+            wait_until(lambda: strip(self.desk, self.program), 20, "the strip")
+            hears = accessibility.listen(self.desk, self.program)
+            news = ["object:children-changed:add application showing"]
+            tray = hosts.trayer(self.desk)
+            wait_until(lambda: hears(*news), 20, "its coming")
+            news.append("object:property-change:accessible-name push button showing")
+            with processes.holding(GIGABYTE):
+                wait_until(lambda: hears(*news), 20, "its new figures")
+            news.append("object:children-changed:remove application showing")
+            tray.kill()
+            wait_until(lambda: hears(*news), 20, "its going")
+
+    def test_it_can_be_pressed(self):
+        with self.desktop() as self.desk:
+            accessibility.enable(self.desk)
+            hosts.trayer(self.desk)
+            self.program = start(self.desk, "--show-settings")
+            self.wait_for_item_at(self.place_in_tray)
+            accessibility.act(self.desk, self.program, "push button", "CPU .*", "Press")
+            _, left, top, width, _ = wait_until(lambda: dashboard(self.desk, self.program), 10,
+                                                "the dashboard")
+            _, item_left, _, item_width, item_height = self.place_in_tray()
+            self.assertLess(left, item_left + item_width)
+            self.assertLess(item_left, left + width)
+            self.assertLess(top, item_height + 40)
+
+    def test_a_screen_reader_that_comes_later_finds_it(self):
+        with self.desktop() as self.desk:
+            hosts.trayer(self.desk)
+            self.program = start(self.desk)
+            wait_until(self.place_in_tray, 20, "the item in the tray")
+            accessibility.enable(self.desk)
+            self.wait_for_item_at(self.place_in_tray)
+
 
 class Keyboard(AccessibilityTestCase):
     def focused(self):

@@ -13,10 +13,12 @@ from bus import Bus
 from desktop import wait_until
 from load import cpu_load
 from processes import GIGABYTE
-from program import (DesktopTestCase, dashboard, press_keys, press_keys_in, start, strip,
+from program import (DesktopTestCase, click, dashboard, press_keys, press_keys_in, start, strip,
                      wait_for_item, wait_for_text)
 
 PANEL = (0, 0, 1000, 28)
+ROWS = ("RAM display", "Menu bar text", "Refresh interval")
+WHEEL_UP, WHEEL_DOWN = 4, 5
 
 
 class SettingsTestCase(DesktopTestCase):
@@ -83,6 +85,19 @@ class SettingsTestCase(DesktopTestCase):
 
     def login_line(self):
         return settings.login_line(self.desk, self.program)
+
+    def focused(self):
+        return next((e["name"] for e in self.elements()
+                     if e["role"] in ("check box", "combo box") and "focused" in e["states"]), None)
+
+    def tab_to(self, name):
+        for _ in range(5):
+            before = self.focused()
+            if before == name:
+                return
+            press_keys(self.desk, "Tab")
+            wait_until(lambda: self.focused() not in (None, before), 5, "another focus")
+        self.fail(f"{name} cannot be reached")
 
 
 class Settings(SettingsTestCase):
@@ -185,20 +200,45 @@ class TextSize(DesktopTestCase):
                 widths.append(wider[3])
 
 
+class Wheel(SettingsTestCase):
+    def turn_wheel(self, row):
+        middle = accessibility.middle(self.spoken("combo box")[row])
+        for button in (WHEEL_DOWN, WHEEL_DOWN, WHEEL_UP):
+            click(self.desk, middle, button)
+
+    def assert_nothing_was_chosen(self):
+        """What comes after all that was done before has happened, and no choice has."""
+        entry = self.desk.config / "autostart/zephrine.desktop"
+        was_there = entry.exists()
+        settings.tick_login(self.desk, self.program)
+        wait_until(lambda: entry.exists() != was_there, 5, "what a click does")
+        self.assertIsNone(settings.stored(self.desk))
+        self.assertEqual([e["description"] for e in self.spoken("combo box").values()],
+                         ["Percentage", "Medium", "1 second"])
+
+    def test_the_wheel_over_a_button_chooses_nothing(self):
+        with self.opened(interval=None):
+            for row in ROWS:
+                self.turn_wheel(row)
+            self.assert_nothing_was_chosen()
+
+    def test_nor_does_it_over_the_button_with_the_keyboard(self):
+        with self.opened(interval=None):
+            for row in ROWS:
+                self.tab_to(row)
+                self.turn_wheel(row)
+            self.assert_nothing_was_chosen()
+
+    def test_keys_stay_where_the_keyboard_is_when_the_wheel_is_turned(self):
+        with self.opened(interval=None):
+            self.tab_to("Launch Zephrine at login")
+            for row in ROWS:
+                self.turn_wheel(row)
+                press_keys(self.desk, "Down", "g", "l", "5", "End")
+            self.assert_nothing_was_chosen()
+
+
 class KeyboardOnly(SettingsTestCase):
-    def focused(self):
-        return next((e["name"] for e in self.elements()
-                     if e["role"] in ("check box", "combo box") and "focused" in e["states"]), None)
-
-    def tab_to(self, name):
-        for _ in range(5):
-            before = self.focused()
-            if before == name:
-                return
-            press_keys(self.desk, "Tab")
-            wait_until(lambda: self.focused() not in (None, before), 5, "another focus")
-        self.fail(f"{name} cannot be reached")
-
     def test_everything_can_be_chosen(self):
         with self.opened(interval=None):
             entry = self.desk.config / "autostart/zephrine.desktop"

@@ -7,6 +7,9 @@ import sys
 import time
 import unittest
 
+import accessibility
+import hosts
+import settings
 import tray
 from desktop import wait_until
 from program import DesktopTestCase, item_in_tray, start, strip
@@ -34,6 +37,21 @@ class TrayOfX11(DesktopTestCase):
             wait_for_item_in_tray(desktop, other_than=first)
             wait_until(lambda: not strip(desktop, program), 5, "no strip beside it")
 
+    def test_the_item_is_as_long_in_a_tray_as_in_the_strip(self):
+        with self.desktop() as desktop:
+            accessibility.enable(desktop)
+            settings.store(desktop, fontSize=8)
+            program = start(desktop, "--show-settings")
+            small = wait_until(lambda: strip(desktop, program), 10, "the strip")[3]
+            panel = hosts.trayer(desktop)
+            wait_until(lambda: width_in_tray(desktop) == small, 10, f"an item of {small} pixels")
+            settings.choose(desktop, program, "Menu bar text", "Large")
+            wait_until(lambda: width_in_tray(desktop) > small, 10, "a wider item")
+            large = width_in_tray(desktop)
+            panel.kill()
+            wait_until(lambda: (strip(desktop, program) or [0] * 4)[3] == large, 10,
+                       f"a strip of {large} pixels")
+
     def test_the_strip_takes_over_where_the_tray_puts_the_item_out_again_and_again(self):
         with self.desktop(window_manager=False) as desktop:
             start_tray(desktop, "refusing")
@@ -56,6 +74,12 @@ class TrayOfX11(DesktopTestCase):
 
 def start_tray(desktop, *options):
     return desktop.start(sys.executable, tray.__file__, *options)
+
+
+def width_in_tray(desktop):
+    """0 where no tray has the item."""
+    window = item_in_tray(desktop)
+    return window[1] if window else 0
 
 
 def times_asked(desktop):

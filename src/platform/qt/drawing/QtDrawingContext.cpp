@@ -4,9 +4,11 @@
 
 #include <QFontMetricsF>
 #include <QLineF>
+#include <QPainterPath>
 #include <QVarLengthArray>
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Fonts.h"
@@ -24,15 +26,24 @@ QPointF onDeviceRow(const QPainter& painter, QPointF point) {
     return toDevice.inverted().map(device);
 }
 
-bool areLevel(const QVarLengthArray<QLineF, 512>& lines) {
+// In line widths, from the inner corner to the tip; sharper corners are cut off.
+constexpr double kMiterLimit = 10;
+
+using Lines = QVarLengthArray<QLineF, 512>;
+
+void drawLines(QPainter& painter, const Lines& lines, const QColor& color, double width) {
+    painter.setPen(QPen(color, width, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLines(lines.constData(), static_cast<int>(lines.size()));
+}
+
+bool areLevel(const Lines& lines) {
     return std::all_of(lines.begin(), lines.end(),
                        [](const QLineF& line) { return line.dy() == 0; });
 }
 
 /// Draws level lines no thicker than a device pixel, each in one row of pixels: where it falls
 /// between two rows, it would be a blur of twice the height.
-void drawHairlines(QPainter& painter, QVarLengthArray<QLineF, 512>& lines, QColor color,
-                   double thickness) {
+void drawHairlines(QPainter& painter, Lines& lines, QColor color, double thickness) {
     const QTransform& toDevice = painter.deviceTransform();
     for (QLineF& line : lines) {
         QPointF device = toDevice.map(line.p1());
@@ -41,8 +52,42 @@ void drawHairlines(QPainter& painter, QVarLengthArray<QLineF, 512>& lines, QColo
         line = QLineF(line.x1(), y, line.x2(), y);
     }
     color.setAlphaF(color.alphaF() * static_cast<float>(thickness));
-    painter.setPen(QPen(color, 1 / toDevice.m22(), Qt::SolidLine, Qt::FlatCap));
-    painter.drawLines(lines.constData(), static_cast<int>(lines.size()));
+    drawLines(painter, lines, color, 1 / toDevice.m22());
+}
+
+/// Draws lines with a dot wherever one goes on from another: at twice the density 300 of them take
+/// 0.4 ms where one stroked path takes 1.3 ms, and 0.6 ms where it takes 22 ms for being jagged.
+/// The dots are octagons, which at the widths drawn here cannot be told from circles, made of a
+/// short line in each of four directions.
+void drawJoinedRound(QPainter& painter, const Lines& lines, const QColor& color, double width) {
+    drawLines(painter, lines, color, width);
+    constexpr double halfSide = std::numbers::pi / 8;  // seen from the middle of the octagon
+    const double reach = width / 2 * std::cos(halfSide);
+    Lines dots;
+    for (int direction = 0; direction < 4; ++direction) {
+        const double angle = direction * 2 * halfSide;
+        const QPointF end(reach * std::cos(angle), reach * std::sin(angle));
+        dots.clear();
+        for (qsizetype i = 1; i < lines.size(); ++i) {
+            if (const QPointF joint = lines[i].p1(); joint == lines[i - 1].p2()) {
+                dots.append(QLineF(joint - end, joint + end));
+            }
+        }
+        drawLines(painter, dots, color, width * std::sin(halfSide));
+    }
+}
+
+void drawJoinedMitred(QPainter& painter, const Lines& lines, const QColor& color, double width) {
+    QPainterPath outline;
+    for (const QLineF& line : lines) {
+        if (outline.isEmpty() || outline.currentPosition() != line.p1()) {
+            outline.moveTo(line.p1());
+        }
+        outline.lineTo(line.p2());
+    }
+    QPen pen(color, width, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
+    pen.setMiterLimit(kMiterLimit);
+    painter.strokePath(outline, pen);
 }
 
 }  // namespace
@@ -83,10 +128,7 @@ void QtDrawingContext::fillRect(const Rect& rect) {
 }
 
 void QtDrawingContext::stroke(const Path& path) {
-    // 300 single lines take 0.06 ms where one stroked path takes 0.5 ms, and 5 ms if it is jagged.
-    // Square ends overlap at the joints: at the widths drawn here that cannot be told from a round
-    // join.
-    QVarLengthArray<QLineF, 512> lines;
+    Lines lines;
     QPointF last;
     for (const Path::Element& element : path.elements()) {
         const QPointF point = flipped(element.point);
@@ -98,11 +140,11 @@ void QtDrawingContext::stroke(const Path& path) {
     const double thickness = path.lineWidth * painter_.deviceTransform().m22();
     if (thickness <= 1 && areLevel(lines)) {
         drawHairlines(painter_, lines, stroke_, thickness);
-        return;
+    } else if (path.lineJoin == LineJoin::round) {
+        drawJoinedRound(painter_, lines, stroke_, path.lineWidth);
+    } else {
+        drawJoinedMitred(painter_, lines, stroke_, path.lineWidth);
     }
-    const auto cap = path.lineJoin == LineJoin::round ? Qt::SquareCap : Qt::FlatCap;
-    painter_.setPen(QPen(stroke_, path.lineWidth, Qt::SolidLine, cap));
-    painter_.drawLines(lines.constData(), static_cast<int>(lines.size()));
 }
 
 void QtDrawingContext::drawText(std::string_view text, Point origin, const Font& font,

@@ -43,7 +43,7 @@ void QtStatusItem::setAutosaveName(const std::string& name) {
 }
 
 void QtStatusItem::setLength(double length) {
-    button_.strip().setLength(length);
+    button_.setLength(length);
 }
 
 }  // namespace zephrine

@@ -84,6 +84,7 @@ void QtStatusItemButton::setAccessibilityLabel(const std::string& text) {
     label_ = text;
     item_.setAccessibleText(withoutMarkup(fromUTF8(text)));
     strip_.setAccessibleName(fromUTF8(text));
+    tray_.setAccessibilityLabel(fromUTF8(text));
 }
 
 void QtStatusItemButton::setImage(StatusItemImage image) {
@@ -101,6 +102,11 @@ std::optional<QRect> QtStatusItemButton::anchorRect() const {
         return inTray;
     }
     return strip_.isShown() ? std::optional(strip_.place()) : lastClick_;
+}
+
+void QtStatusItemButton::setLength(double length) {
+    strip_.setLength(length);
+    tray_.setLength(length);
 }
 
 void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {

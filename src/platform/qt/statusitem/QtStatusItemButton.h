@@ -46,6 +46,8 @@ public:
 
     [[nodiscard]] std::optional<QRect> anchorRect() const override;
 
+    /// Points along the bar, for the forms that are not as wide as the panel makes them.
+    void setLength(double length);
     void hostChanged(const HostWatcher& watcher);
     /// Whether the panel should not be given the item, since its tray shows it better.
     [[nodiscard]] bool prefersTray() const;

@@ -3,6 +3,7 @@
 #include "platform/qt/widgets/QtCheckBox.h"
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QPainter>
 #include <utility>
 
@@ -32,6 +33,15 @@ protected:
         return rect().contains(point);
     }
 
+    /// An arrow would move the keyboard on to a pop-up button, where the next one chooses.
+    void keyPressEvent(QKeyEvent* event) override {
+        if (isArrow(event->key())) {
+            event->ignore();
+        } else {
+            QCheckBox::keyPressEvent(event);
+        }
+    }
+
     void paintEvent(QPaintEvent* /*event*/) override {
         const Appearance appearance = appearance_.current();
         const ControlColors colors = controlColors(appearance);
@@ -55,6 +65,11 @@ protected:
     }
 
 private:
+    static bool isArrow(int key) {
+        return key == Qt::Key_Left || key == Qt::Key_Up || key == Qt::Key_Right ||
+               key == Qt::Key_Down;
+    }
+
     static void paintTick(QPainter& painter, const QRectF& box, const QColor& color) {
         painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         const QPointF origin = box.topLeft();

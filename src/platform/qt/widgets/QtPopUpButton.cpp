@@ -5,6 +5,7 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QPainter>
+#include <QWheelEvent>
 #include <utility>
 
 #include "platform/qt/drawing/Colors.h"
@@ -29,6 +30,7 @@ public:
         }
         setAttribute(Qt::WA_Hover);
         setFont(makeFont(Font{}));
+        setFocusPolicy(Qt::StrongFocus);  // not by the wheel, or the keys that follow would choose
     }
 
 protected:
@@ -48,6 +50,9 @@ protected:
                          Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, currentText());
         paintChevrons(painter, resolve(Color::secondaryLabelColor, appearance));
     }
+
+    /// A choice takes effect at once, and who turns the wheel over the window has made none.
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
 private:
     /// Up and down: the list opens over the button and the choice may lie either way.

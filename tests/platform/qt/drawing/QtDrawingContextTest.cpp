@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QRect>
+#include <cmath>
 #include <string>
 
 #include "platform/qt/drawing/QtTextMeasure.h"
@@ -63,6 +64,68 @@ TEST(QtDrawingContext, StrokesLinesWithoutAGapBetweenThem) {
         EXPECT_GT(strongest, 150) << "column " << x;
     }
     EXPECT_EQ(qAlpha(image.pixel(20, 38)), 0) << "nothing joins the two ends";
+}
+
+/// A peak whose sides are ten points wide and meet at a right angle, 40 points above the ground.
+QRect inkOfPeak(LineJoin join) {
+    Path path;
+    path.lineWidth = 10;
+    path.lineJoin = join;
+    path.moveTo({10, 10});
+    path.lineTo({40, 40});
+    path.lineTo({70, 10});
+    return inked(draw({80, 60}, 1, [&](DrawingContext& context) {
+        context.setStroke(Color::black);
+        context.stroke(path);
+    }));
+}
+
+TEST(QtDrawingContext, RoundsAJointWhereTheRoundJoinIsAskedFor) {
+    EXPECT_NEAR(60 - inkOfPeak(LineJoin::round).top(), 40 + 5, 0.5);
+}
+
+TEST(QtDrawingContext, EndsAJointInATipOtherwise) {
+    EXPECT_NEAR(60 - inkOfPeak(LineJoin::miter).top(), 40 + 5 * std::sqrt(2), 0.8);
+}
+
+TEST(QtDrawingContext, FillsTheOuterSideOfAJoint) {
+    for (const LineJoin join : {LineJoin::round, LineJoin::miter}) {
+        Path path;
+        path.lineWidth = 16;
+        path.lineJoin = join;
+        path.moveTo({10, 10});
+        path.lineTo({40, 10});
+        path.lineTo({40, 40});
+        const QImage image = draw({60, 60}, 1, [&](DrawingContext& context) {
+            context.setStroke(Color::black);
+            context.stroke(path);
+        });
+        // Half the width away from the joint, on its outer side.
+        EXPECT_EQ(qAlpha(image.pixel(44, 60 - 6)), 255);
+        EXPECT_EQ(qAlpha(image.pixel(47, 60 - 3)), join == LineJoin::miter ? 255 : 0);
+    }
+}
+
+TEST(QtDrawingContext, CutsAStretchOffWhereItEnds) {
+    for (const LineJoin join : {LineJoin::round, LineJoin::miter}) {
+        Path path;
+        path.lineWidth = 6;
+        path.lineJoin = join;
+        path.moveTo({10, 20});
+        path.lineTo({20, 20});
+        path.lineTo({30, 20});
+        path.moveTo({40, 20});
+        path.lineTo({50, 20});
+        path.moveTo({60, 20});
+        path.lineTo({60, 30});
+        const QImage image = draw({80, 40}, 1, [&](DrawingContext& context) {
+            context.setStroke(Color::black);
+            context.stroke(path);
+        });
+        EXPECT_EQ(inked(image.copy(0, 0, 35, 40)), QRect(10, 17, 20, 6));
+        EXPECT_EQ(inked(image.copy(35, 0, 20, 40)), QRect(5, 17, 10, 6));
+        EXPECT_EQ(inked(image.copy(55, 0, 25, 40)), QRect(2, 10, 6, 10));
+    }
 }
 
 TEST(QtDrawingContext, DrawsAThinLevelLineInOneRowOfPixels) {

@@ -4,7 +4,11 @@
 #include <gmock/gmock.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
 
 #include "contract/WidgetContract.h"
 #include "platform/qt/TestApplication.h"
@@ -118,6 +122,25 @@ TEST_F(QtWidgetsTest, ShowAToolTipAsPlainText) {
     view->setToolTip("<b>a</b> & b");
     EXPECT_EQ(qtView(*view).widget().toolTip(),
               "<p style='white-space:pre-wrap'>&lt;b&gt;a&lt;/b&gt; &amp; b</p>");
+}
+
+TEST_F(QtWidgetsTest, ScrollTheOpenListOfAPopUpButtonByWheel) {
+    const auto button = make.makePopUpButton(std::vector<std::string>(200, "item"));
+    button->setFrame({0, 0, 100, 26});
+    auto& comboBox = dynamic_cast<QComboBox&>(qtView(*button).widget());
+    comboBox.show();
+    comboBox.showPopup();
+    const QScrollBar& bar = *comboBox.view()->verticalScrollBar();
+    ASSERT_TRUE(waitUntil([&] { return bar.maximum() > 0; }));
+    QWidget& list = *comboBox.view()->viewport();
+    const QPointF middle = QRectF(list.rect()).center();
+    QWheelEvent turn(middle, list.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&list, &turn);
+    EXPECT_GT(bar.value(), 0);
+    EXPECT_EQ(button->indexOfSelectedItem(), 0);
+    comboBox.hidePopup();
+    comboBox.hide();
 }
 
 TEST_F(QtWidgetsTest, FindNoImageThatDoesNotExist) {

@@ -7,11 +7,13 @@
 #include <QComboBox>
 #include <QFontMetricsF>
 #include <QKeyEvent>
+#include <QWheelEvent>
 #include <map>
 
 #include "platform/qt/TestApplication.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Fonts.h"
+#include "platform/qt/statusitem/PrivateBus.h"
 #include "platform/qt/widgets/QtView.h"
 #include "platform/qt/widgets/ShownWidgets.h"
 #include "settings/SettingsTable.h"
@@ -37,6 +39,14 @@ protected:
             QKeyEvent event(type, key, Qt::NoModifier);
             QCoreApplication::sendEvent(&widget, &event);
         }
+    }
+
+    /// Away from the user, who turns it over the middle of the widget.
+    static void turnWheel(QWidget& widget) {
+        const QPointF middle = QRectF(widget.rect()).center();
+        QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&widget, &event);
     }
 
     /// Calls `check` with each label and its row of the table.
@@ -181,6 +191,39 @@ TEST_F(SettingsWidgets, TellOfChoicesMadeWithTheKeyboardOnly) {
     press(comboBox(*settings.fontSize), Qt::Key_Up);
     press(comboBox(*settings.fontSize), Qt::Key_Home);
     EXPECT_EQ(chosen, (std::vector<int>{2, 1, 0}));
+}
+
+TEST_F(SettingsWidgets, TakeNoTurnOfTheWheelForAChoice) {
+    for (PopUpButton* button :
+         {settings.ramDisplay.get(), settings.fontSize.get(), settings.refreshInterval.get()}) {
+        int choices = 0;
+        button->setAction([&] { ++choices; });
+        button->selectItem(0);
+        turnWheel(comboBox(*button));
+        EXPECT_EQ(button->indexOfSelectedItem(), 0);
+        EXPECT_EQ(choices, 0);
+    }
+}
+
+TEST_F(SettingsWidgets, TakeTheKeyboardByTabAndClickButNotByTheWheel) {
+    for (PopUpButton* button :
+         {settings.ramDisplay.get(), settings.fontSize.get(), settings.refreshInterval.get()}) {
+        EXPECT_EQ(comboBox(*button).focusPolicy(), Qt::StrongFocus);
+    }
+}
+
+TEST_F(SettingsWidgets, KeepTheKeyboardAtTheCheckBoxWhenArrowsArePressedThere) {
+    QWidget& window = *checkBox().window();
+    window.show();
+    window.activateWindow();
+    checkBox().setFocus();
+    ASSERT_TRUE(waitUntil([&] { return checkBox().hasFocus(); }));
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+        press(checkBox(), key);
+        EXPECT_TRUE(checkBox().hasFocus()) << key;
+    }
+    EXPECT_FALSE(settings.loginButton->isOn());
+    window.hide();
 }
 
 }  // namespace

@@ -32,7 +32,13 @@ constexpr std::chrono::milliseconds kWhile{10000};
 
 }  // namespace
 
-TrayItem::TrayItem() : nextPause_(kPause) {
+TrayItem::TrayItem()
+    : nextPause_(kPause),
+      spoken_({.place = [this] { return place(); },
+               .press =
+                   [this] {
+                       QMetaObject::invokeMethod(this, &TrayItem::pressed, Qt::QueuedConnection);
+                   }}) {
     patience_.setSingleShot(true);
     patience_.setInterval(kPatience);
     patience_.callOnTimeout([this] { setPresence(Presence::absent); });
@@ -72,6 +78,13 @@ void TrayItem::expectTray() {
     if (presence_ == Presence::absent) {
         patience_.start();
         setPresence(Presence::unknown);
+    }
+}
+
+void TrayItem::setLength(double length) {
+    length_ = length;
+    if (window_) {
+        window_->setLength(length);
     }
 }
 
@@ -124,6 +137,11 @@ void TrayItem::hovered(bool isOver) {
     }
 }
 
+void TrayItem::pressed() {
+    hovered(false);
+    Q_EMIT clicked();
+}
+
 void TrayItem::findManager() {
     xcb_connection_t* const x = connection_->get();
     const auto owner =
@@ -159,12 +177,9 @@ void TrayItem::dockWith(xcb_window_t manager) {
                                          this, [this, docking] { lost(docking); },
                                          Qt::QueuedConnection);
                                  },
-                             .clicked =
-                                 [this] {
-                                     hovered(false);
-                                     Q_EMIT clicked();
-                                 },
+                             .clicked = [this] { pressed(); },
                              .hovered = [this](bool isOver) { hovered(isOver); }});
+    window_->setLength(length_);
     setPicture(image_, appearance_);
 }
 
@@ -206,6 +221,7 @@ void TrayItem::leaveTray() {
 
 void TrayItem::setPresence(Presence presence) {
     if (std::exchange(presence_, presence) != presence) {
+        spoken_.setShown(presence == Presence::docked);
         Q_EMIT presenceChanged();
     }
 }

@@ -13,6 +13,7 @@
 #include <optional>
 
 #include "platform/StatusBar.h"
+#include "platform/qt/statusitem/tray/SpokenTrayItem.h"
 #include "platform/qt/statusitem/tray/TrayHints.h"
 #include "platform/qt/statusitem/tray/TrayWindow.h"
 #include "platform/qt/x11/X11Client.h"
@@ -36,9 +37,13 @@ public:
     /// It should, and a tray is there or about to come: it is missed only after three seconds.
     void expectTray();
     [[nodiscard]] Presence presence() const { return presence_; }
+    /// Points from the left end to the right end, where the tray leaves it the choice.
+    void setLength(double length);
     void setPicture(const StatusItemImage& image, Appearance appearance);
     /// Shown beside the item while the pointer rests on it.
     void setToolTip(const QString& text) { toolTip_ = text; }
+    /// What a screen reader says of it.
+    void setAccessibilityLabel(const QString& text) { spoken_.setName(text); }
     /// In global logical coordinates; absent while it is not docked.
     [[nodiscard]] std::optional<QRect> place() const;
 
@@ -52,6 +57,7 @@ public:
 private:
     void handle(const xcb_generic_event_t& event);
     void hovered(bool isOver);
+    void pressed();
     void findManager();
     void dockWith(xcb_window_t manager);
     void placed();
@@ -73,9 +79,11 @@ private:
     std::chrono::milliseconds nextPause_;
     QTimer rest_;  ///< of the pointer, until the tip is shown
     QString toolTip_;
+    double length_ = 0;
     StatusItemImage image_;
     Appearance appearance_ = Appearance::aqua;
     Presence presence_ = Presence::absent;
+    SpokenTrayItem spoken_;  // asks the others where they are
 };
 
 }  // namespace zephrine

@@ -4,6 +4,7 @@
 #include "platform/qt/statusitem/tray/TrayWindow.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstring>
@@ -94,6 +95,13 @@ void TrayWindow::requestDock(xcb_window_t manager) {
                    reinterpret_cast<const char*>(&request));
 }
 
+void TrayWindow::setLength(double length) {
+    length_ = length;
+    if (image_.wide.drawingHandler) {
+        askForSize();
+    }
+}
+
 void TrayWindow::setPicture(const StatusItemImage& image, Appearance appearance, double density) {
     image_ = image;
     appearance_ = appearance;
@@ -105,7 +113,8 @@ void TrayWindow::setPicture(const StatusItemImage& image, Appearance appearance,
 void TrayWindow::askForSize() {
     const Size wide = image_.wide.size;
     const bool isTooLow = isDocked_ && !isHighEnoughForWide(size_.height(), wide, density_);
-    const double width = hints_.isVertical || isTooLow ? wide.height : wide.width;
+    const double width =
+        hints_.isVertical || isTooLow ? wide.height : std::max(length_, wide.width);
     const QSize wanted(static_cast<int>(std::ceil(width * density_)),
                        static_cast<int>(std::ceil(wide.height * density_)));
     if (std::exchange(asked_, wanted) == wanted) {

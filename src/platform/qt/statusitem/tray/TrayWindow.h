@@ -31,6 +31,8 @@ public:
     ~TrayWindow();
     Q_DISABLE_COPY_MOVE(TrayWindow)
 
+    /// Points from the left end to the right end, where the tray leaves it the choice.
+    void setLength(double length);
     void setPicture(const StatusItemImage& image, Appearance appearance, double density);
     /// Events of other windows are ignored.
     void handle(const xcb_generic_event_t& event);
@@ -58,6 +60,7 @@ private:
     xcb_window_t window_ = XCB_WINDOW_NONE;
     xcb_gcontext_t graphics_ = XCB_NONE;
     xcb_colormap_t colormap_ = XCB_NONE;
+    double length_ = 0;
     StatusItemImage image_;
     Appearance appearance_ = Appearance::aqua;
     double density_ = 1;
