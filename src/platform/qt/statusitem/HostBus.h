@@ -33,14 +33,4 @@ public:
     virtual void askForHost(const QString& owner, std::function<void(bool)> answer) = 0;
 };
 
-/// One thing to be done later.
-class Delay {
-public:
-    virtual ~Delay() = default;
-
-    /// Replaces what was to be done.
-    virtual void start(std::function<void()> action) = 0;
-    virtual void stop() = 0;
-};
-
 }  // namespace zephrine

@@ -1,28 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The state machine. A watcher is asked three things in turn: whose process it is (so that the
-// right pictures are ready), whether any panel shows its items, and to take the item. In this
-// order, since some panels never show an item that came to the watcher while they looked at what it
-// had.
+// A watcher is asked three things in turn: whose process it is (so that the right pictures are
+// ready), whether any panel shows its items, and to take the item. In this order, since some panels
+// never show an item that came to the watcher while they looked at what it had.
 #include "platform/qt/statusitem/HostWatcher.h"
 
 #include <utility>
 
 namespace zephrine {
 
-HostWatcher::HostWatcher(HostBus& bus, Delay& delay, std::function<void()> changed)
-    : bus_(bus), delay_(delay), changed_(std::move(changed)) {}
+HostWatcher::HostWatcher(HostBus& bus, std::function<void()> changed)
+    : bus_(bus), changed_(std::move(changed)) {}
 
 void HostWatcher::start(bool connected) {
     if (!connected) {
-        answered_ = true;
-        setPresence(Presence::absent);
-        return;
+        setState(PanelReport::State::none);
     }
-    update();
 }
 
 void HostWatcher::watcherOwnerChanged(const QString& owner) {
-    const bool isFirst = !std::exchange(answered_, true);
+    const bool isFirst = state_ == PanelReport::State::unknown;
     if (owner == owner_ && !isFirst) {
         return;
     }
@@ -30,24 +26,23 @@ void HostWatcher::watcherOwnerChanged(const QString& owner) {
     ++generation_;
     registration_ = Registration::none;
     hasHost_ = false;
-    isHeldBack_ = false;
-    if (std::exchange(process_, std::nullopt)) {
+    const bool wasKnown = std::exchange(process_, std::nullopt).has_value();
+    const auto before = state_;
+    update();
+    if (wasKnown && state_ == before) {
         changed_();
     }
     if (!owner.isEmpty()) {
         bus_.identify(owner, ifCurrent<HostProcess>([this](HostProcess process) {
                           process_ = std::move(process);
                           changed_();
-                          offerItem();
+                          askForHost();
                       }));
-    } else if (isFirst) {
-        missPanel();
     }
-    update();
 }
 
 void HostWatcher::hostsChanged() {
-    if (process_ && !isHeldBack_) {
+    if (process_) {
         askForHost();
     }
 }
@@ -56,40 +51,20 @@ void HostWatcher::busLost() {
     watcherOwnerChanged({});
 }
 
-void HostWatcher::setWanted(bool wanted) {
-    isWanted_ = wanted;
-    if (isWanted_ && std::exchange(isHeldBack_, false)) {
-        setPresence(Presence::unknown);
+void HostWatcher::setOffered(bool offered) {
+    if (std::exchange(isOffered_, offered) != offered && process_) {
         askForHost();
-        update();
     }
-}
-
-void HostWatcher::offerItem() {
-    if (isWanted_) {
-        askForHost();
-    } else {
-        holdBack();
-    }
-}
-
-void HostWatcher::holdBack() {
-    isHeldBack_ = true;
-    missPanel();
-}
-
-/// Without the delay.
-void HostWatcher::missPanel() {
-    delay_.stop();
-    waiting_ = false;
-    setPresence(Presence::absent);
 }
 
 void HostWatcher::askForHost() {
+    if (!isOffered_) {
+        return;
+    }
     bus_.askForHost(owner_, ifCurrent<bool>([this](bool hasHost) {
                         hasHost_ = hasHost;
-                        if (hasHost && registration_ == Registration::none) {
-                            isWanted_ ? registerItem() : holdBack();
+                        if (hasHost && isOffered_ && registration_ == Registration::none) {
+                            registerItem();
                         }
                         update();
                     }));
@@ -104,21 +79,14 @@ void HostWatcher::registerItem() {
 }
 
 void HostWatcher::update() {
-    if (registration_ == Registration::done && hasHost_) {
-        delay_.stop();
-        waiting_ = false;
-        setPresence(Presence::present);
-    } else if (presence_ != Presence::absent && !waiting_) {
-        waiting_ = true;
-        delay_.start([this] {
-            waiting_ = false;
-            setPresence(Presence::absent);
-        });
-    }
+    const bool shows = registration_ == Registration::done && hasHost_;
+    setState(shows              ? PanelReport::State::showing
+             : owner_.isEmpty() ? PanelReport::State::none
+                                : PanelReport::State::silent);
 }
 
-void HostWatcher::setPresence(Presence presence) {
-    if (std::exchange(presence_, presence) != presence) {
+void HostWatcher::setState(PanelReport::State state) {
+    if (std::exchange(state_, state) != state) {
         changed_();
     }
 }

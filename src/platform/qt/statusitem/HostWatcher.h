@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Follows the panel: finds out which one shows the item, registers the item with each new one, and
-// tells when there is none. Panels crash, restart and start late, so "none" is believed only after
-// a delay, except at the very start when nobody is there at all.
+// Follows the panel: finds out which one shows the item, and registers the item with each new one.
+// Reports what it finds; what follows from it is decided elsewhere.
 #pragma once
 
 #include <QString>
@@ -9,15 +8,14 @@
 #include <optional>
 
 #include "platform/qt/statusitem/HostBus.h"
+#include "platform/qt/statusitem/ItemPlacement.h"
 
 namespace zephrine {
 
 class HostWatcher {
 public:
-    enum class Presence { unknown, present, absent };
-
-    /// `changed` is called when `presence` or `process` has changed.
-    HostWatcher(HostBus& bus, Delay& delay, std::function<void()> changed);
+    /// `changed` is called when `state` or `process` has changed; it may call `setOffered`.
+    HostWatcher(HostBus& bus, std::function<void()> changed);
 
     /// Call once. `connected` is whether there is a bus at all.
     void start(bool connected);
@@ -28,38 +26,31 @@ public:
     void busLost();
     /// Whether a panel is to be given the item; at first each one is. Without effect on one that
     /// has it already.
-    void setWanted(bool wanted);
+    void setOffered(bool offered);
 
-    [[nodiscard]] Presence presence() const { return presence_; }
+    [[nodiscard]] PanelReport::State state() const { return state_; }
     /// The watcher's process; absent while there is no watcher, and nobody asks for the item.
     [[nodiscard]] const std::optional<HostProcess>& process() const { return process_; }
 
 private:
     enum class Registration { none, asked, done };
 
-    void offerItem();
-    void holdBack();
-    void missPanel();
     void askForHost();
     void registerItem();
     void update();
-    void setPresence(Presence presence);
+    void setState(PanelReport::State state);
     /// Runs `next` with an answer, unless the watcher is another by then.
     template <typename Answer>
     std::function<void(Answer)> ifCurrent(std::function<void(Answer)> next);
 
     HostBus& bus_;
-    Delay& delay_;
     std::function<void()> changed_;
-    Presence presence_ = Presence::unknown;
+    PanelReport::State state_ = PanelReport::State::unknown;
     std::optional<HostProcess> process_;
     QString owner_;
-    bool isWanted_ = true;
-    bool isHeldBack_ = false;  ///< from the panel that there is
-    bool answered_ = false;
+    bool isOffered_ = true;
     Registration registration_ = Registration::none;
     bool hasHost_ = false;
-    bool waiting_ = false;
     unsigned generation_ = 0;
 };
 

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The parts of the item, put together.
 #include "platform/qt/statusitem/QtStatusItem.h"
 
+#include <algorithm>
 #include <cstdint>
+
+#include "platform/qt/statusitem/HostForm.h"
+#include "platform/qt/x11/X11.h"
 
 namespace zephrine {
 
@@ -27,15 +30,17 @@ QtStatusItem::QtStatusItem(double length, const StatusItemServices& services,
                            const QString& busAddress, std::chrono::milliseconds patience)
     : connection_(busAddress),
       button_(connection_.bus(), services),
-      delay_(patience),
       hostBus_(connection_.bus()),
-      watcher_(hostBus_, delay_, [this] {
-          button_.hostChanged(watcher_);
-          watcher_.setWanted(!button_.prefersTray());
-      }) {
-    button_.setPreferenceChanged([this] { watcher_.setWanted(!button_.prefersTray()); });
+      watcher_(hostBus_, [this] { place(); }),
+      patience_(patience) {
+    due_.setSingleShot(true);
+    due_.callOnTimeout([this] { place(); });
+    // Later, since the tray is in the middle of its own operations when it reports.
+    connect(&button_.tray(), &TrayItem::reportChanged, this, &QtStatusItem::place,
+            Qt::QueuedConnection);
     setLength(length);
     hostBus_.start(watcher_);
+    place();
 }
 
 void QtStatusItem::setAutosaveName(const std::string& name) {
@@ -44,6 +49,33 @@ void QtStatusItem::setAutosaveName(const std::string& name) {
 
 void QtStatusItem::setLength(double length) {
     button_.setLength(length);
+}
+
+PanelReport QtStatusItem::panelReport() const {
+    const auto& host = watcher_.process();
+    return {.state = watcher_.state(),
+            .isKnown = host.has_value(),
+            .hasBetterTray = host && hasBetterTray(*host) && isOnX11()};
+}
+
+void QtStatusItem::place() {
+    using Clock = std::chrono::steady_clock;
+    placement_ =
+        placeItem(placement_, panelReport(), button_.tray().report(), Clock::now(), patience_);
+    watcher_.setOffered(placement_.offersToPanel);
+    button_.tray().setWanted(placement_.wantsTray);
+    if (placement_.asksTrayAgain) {
+        button_.tray().askAgain();
+    }
+    if (placement_.due) {
+        // Rounded up: a timer that fires too early would only have to be started again.
+        const auto rest =
+            std::chrono::ceil<std::chrono::milliseconds>(*placement_.due - Clock::now());
+        due_.start(std::max(rest, std::chrono::milliseconds::zero()));
+    } else {
+        due_.stop();
+    }
+    button_.setSurface(placement_.surface, watcher_.process());
 }
 
 }  // namespace zephrine

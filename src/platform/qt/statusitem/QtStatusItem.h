@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
-// The status item: a place on the session bus of its own, what is seen of it, and the watch over
-// the panel that shows it.
+// The status item: a place on the session bus of its own, the watch over the panel that shows it,
+// what is seen of it, and the decision where that is.
 #pragma once
 
 #include <QDBusConnection>
+#include <QObject>
 #include <QString>
+#include <QTimer>
 #include <chrono>
 #include <string>
 
 #include "platform/StatusBar.h"
 #include "platform/qt/statusitem/HostWatcher.h"
+#include "platform/qt/statusitem/ItemPlacement.h"
 #include "platform/qt/statusitem/QtStatusItemButton.h"
 #include "platform/qt/statusitem/SessionHostBus.h"
-#include "platform/qt/statusitem/TimerDelay.h"
 
 namespace zephrine {
 
@@ -31,8 +33,9 @@ private:
     QDBusConnection bus_;
 };
 
-class QtStatusItem final : public StatusItem {
+class QtStatusItem final : public QObject, public StatusItem {
 public:
+    /// The item leaves a panel that has been missing for `patience`.
     QtStatusItem(double length, const StatusItemServices& services, const QString& busAddress,
                  std::chrono::milliseconds patience);
 
@@ -41,11 +44,17 @@ public:
     QtStatusItemButton* button() override { return &button_; }
 
 private:
+    /// Decides anew where the item stands, and has it done.
+    void place();
+    [[nodiscard]] PanelReport panelReport() const;
+
     ItemConnection connection_;
     QtStatusItemButton button_;
-    TimerDelay delay_;
     SessionHostBus hostBus_;
     HostWatcher watcher_;
+    std::chrono::milliseconds patience_;
+    ItemPlacement placement_;
+    QTimer due_;
 };
 
 }  // namespace zephrine

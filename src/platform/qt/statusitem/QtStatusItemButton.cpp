@@ -16,11 +16,6 @@ namespace zephrine {
 
 namespace {
 
-/// And not just beside it: a Wayland session has an X server, too, which shows only some windows.
-bool isOnX11() {
-    return x11Connection() != nullptr && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-}
-
 /// Absent where nobody tells it: a Wayland session hides the pointer from X11 programs.
 std::optional<QRect> pointerRect() {
     if (!isOnX11()) {
@@ -50,7 +45,6 @@ QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
       drawnFor_(told_) {
     connect(&strip_, &QPushButton::clicked, this, [this] { clicked(); });
     connect(&tray_, &TrayItem::clicked, this, [this] { clicked(); });
-    connect(&tray_, &TrayItem::presenceChanged, this, [this] { trayChanged(); });
     connect(&tray_, &TrayItem::placeChanged, this, &ItemAnchor::anchorChanged);
     strip_.setAccessibleDescription("Zephrine");
 }
@@ -109,33 +103,16 @@ void QtStatusItemButton::setLength(double length) {
     tray_.setLength(length);
 }
 
-void QtStatusItemButton::hostChanged(const HostWatcher& watcher) {
-    host_ = watcher.process();
-    isInPanel_ = watcher.presence() != HostWatcher::Presence::absent;
-    item_.setIsInPanel(isInPanel_);
-    trayHasFailed_ = trayHasFailed_ && host_;
-    if (prefersTray()) {
-        tray_.expectTray();
-    } else {
-        tray_.setWanted(!isInPanel_);
-    }
-    placeChanged();
-}
-
-bool QtStatusItemButton::prefersTray() const {
-    return host_ && hasBetterTray(*host_) && isOnX11() && !trayHasFailed_;
-}
-
-void QtStatusItemButton::setPreferenceChanged(std::function<void()> handler) {
-    preferenceChanged_ = std::move(handler);
-}
-
-void QtStatusItemButton::trayChanged() {
-    if (tray_.presence() == TrayItem::Presence::absent && prefersTray()) {
-        trayHasFailed_ = true;
-        preferenceChanged_();
-    }
-    placeChanged();
+void QtStatusItemButton::setSurface(ItemSurface surface, const std::optional<HostProcess>& host) {
+    surface_ = surface;
+    host_ = host;
+    item_.setIsInPanel(surface == ItemSurface::panel);
+    panelAppearance_.setHost(surface == ItemSurface::panel ? host_
+                             // Whose tray it is, nobody says, but the panel may be there as well.
+                             : surface == ItemSurface::tray
+                                 ? std::optional(host_.value_or(HostProcess()))
+                                 : std::nullopt);
+    show();
 }
 
 void QtStatusItemButton::panelClicked() {
@@ -162,29 +139,18 @@ void QtStatusItemButton::clicked() {
     }
 }
 
-void QtStatusItemButton::placeChanged() {
-    const bool isInTray = tray_.presence() == TrayItem::Presence::docked;
-    panelAppearance_.setHost(isInPanel_ ? host_
-                             // Whose tray it is, nobody says, but the panel may be there as well.
-                             : isInTray ? std::optional(host_.value_or(HostProcess()))
-                                        : std::nullopt);
-    show();
-}
-
 void QtStatusItemButton::show() {
-    if (host_ && isInPanel_) {
+    if (surface_ == ItemSurface::panel && host_) {
         item_.setFace(faceForHost(formOfHost(*host_), image_, drawnFor_, files_));
-    }
-    if (!isInPanel_) {
+    } else if (surface_ != ItemSurface::panel) {
         tray_.setPicture(image_, drawnFor_);
     }
-    const bool shown =
-        !isInPanel_ && tray_.presence() == TrayItem::Presence::absent && image_.wide.drawingHandler;
-    if (shown) {
+    const bool hasStrip = surface_ == ItemSurface::strip && image_.wide.drawingHandler;
+    if (hasStrip) {
         strip_.setPicture(image_.wide, drawnFor_);
     }
-    if (shown != strip_.isShown()) {
-        strip_.setShown(shown);
+    if (hasStrip != strip_.isShown()) {
+        strip_.setShown(hasStrip);
         Q_EMIT anchorChanged();
     }
 }

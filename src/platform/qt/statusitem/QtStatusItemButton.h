@@ -12,7 +12,7 @@
 #include "platform/StatusBar.h"
 #include "platform/qt/ClickGuard.h"
 #include "platform/qt/SystemAppearance.h"
-#include "platform/qt/statusitem/HostWatcher.h"
+#include "platform/qt/statusitem/HostBus.h"
 #include "platform/qt/statusitem/ItemAnchor.h"
 #include "platform/qt/statusitem/NotifierItem.h"
 #include "platform/qt/statusitem/NotifierMenu.h"
@@ -48,11 +48,10 @@ public:
 
     /// Points along the bar, for the forms that are not as wide as the panel makes them.
     void setLength(double length);
-    void hostChanged(const HostWatcher& watcher);
-    /// Whether the panel should not be given the item, since its tray shows it better.
-    [[nodiscard]] bool prefersTray() const;
-    /// Set once; called when that has changed while the panel has not.
-    void setPreferenceChanged(std::function<void()> handler);
+    /// Shows it there. `host` is the panel's process, or the one that the panel's items are
+    /// collected by; absent when nobody collects any.
+    void setSurface(ItemSurface surface, const std::optional<HostProcess>& host);
+    [[nodiscard]] TrayItem& tray() { return tray_; }
     [[nodiscard]] StatusStrip& strip() { return strip_; }
 
 private:
@@ -61,8 +60,6 @@ private:
     void performLater(std::function<void()> action);
     void clicked();
     void show();
-    void trayChanged();
-    void placeChanged();
 
     StatusItemServices services_;
     NotifierItem item_;
@@ -74,7 +71,6 @@ private:
     mutable PanelAppearance panelAppearance_;
 
     std::function<void()> action_;
-    std::function<void()> preferenceChanged_;
     StatusItemImage image_;
     std::string toolTip_;
     std::string label_;
@@ -82,8 +78,7 @@ private:
     mutable Appearance told_;
     Appearance drawnFor_;
     std::optional<HostProcess> host_;
-    bool trayHasFailed_ = false;  ///< the panel's, which was expected to take the item
-    bool isInPanel_ = true;       ///< until it is known that there is none
+    ItemSurface surface_ = ItemSurface::panel;
     bool clickIsQueued_ = false;
     std::optional<QRect> lastClick_;
 };

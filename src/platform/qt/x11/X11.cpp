@@ -45,4 +45,8 @@ bool hasPlainPixels(xcb_connection_t* connection, std::uint8_t depth) {
     return false;
 }
 
+bool isOnX11() {
+    return x11Connection() != nullptr && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
 }  // namespace zephrine

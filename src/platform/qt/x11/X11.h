@@ -61,4 +61,8 @@ std::array<xcb_atom_t, count> internAtoms(xcb_connection_t* connection,
     return atoms;
 }
 
+/// Whether the session is one of X11. A Wayland session has an X server, too, which shows only some
+/// of its windows.
+[[nodiscard]] bool isOnX11();
+
 }  // namespace zephrine

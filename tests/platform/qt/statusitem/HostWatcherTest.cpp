@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The watch over the panel, on a bus and a clock that the test owns.
+// The watch over the panel, on a bus that the test owns.
 #include "platform/qt/statusitem/HostWatcher.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 namespace zephrine {
 namespace {
 
-using Presence = HostWatcher::Presence;
+using State = PanelReport::State;
 
 /// Keeps every question until the test answers it.
 class FakeHostBus : public HostBus {
@@ -33,19 +33,6 @@ public:
     }
 };
 
-class FakeDelay : public Delay {
-public:
-    std::function<void()> pending;
-    int started = 0;
-
-    void start(std::function<void()> action) override {
-        pending = std::move(action);
-        ++started;
-    }
-    void stop() override { pending = nullptr; }
-    void elapse() { std::exchange(pending, nullptr)(); }
-};
-
 template <typename Answer, typename Value>
 void answerNext(std::deque<std::function<void(Answer)>>& questions, Value value) {
     ASSERT_FALSE(questions.empty());
@@ -57,9 +44,8 @@ void answerNext(std::deque<std::function<void(Answer)>>& questions, Value value)
 class HostWatch : public testing::Test {
 protected:
     FakeHostBus bus;
-    FakeDelay delay;
     int changes = 0;
-    HostWatcher watcher{bus, delay, [this] { ++changes; }};
+    HostWatcher watcher{bus, [this] { ++changes; }};
 
     void answerAll(const char* command = "panel-1-systray") {
         answerNext(bus.identifications, HostProcess{42, command});
@@ -73,22 +59,22 @@ protected:
     }
 };
 
-TEST_F(HostWatch, IsOfNoOpinionBeforeTheBusHasAnswered) {
+TEST_F(HostWatch, KnowsNothingBeforeTheBusHasAnswered) {
     watcher.start(true);
-    EXPECT_EQ(watcher.presence(), Presence::unknown);
+    EXPECT_EQ(watcher.state(), State::unknown);
 }
 
-TEST_F(HostWatch, MissesThePanelAtOnceWithoutABus) {
+TEST_F(HostWatch, KnowsThatThereIsNobodyWithoutABus) {
     watcher.start(false);
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(watcher.state(), State::none);
     EXPECT_EQ(changes, 1);
 }
 
-TEST_F(HostWatch, MissesThePanelAtOnceWhenNobodyWatchesAtTheStart) {
+TEST_F(HostWatch, TellsWhenNobodyCollectsItems) {
     watcher.start(true);
     watcher.watcherOwnerChanged("");
-    EXPECT_EQ(watcher.presence(), Presence::absent);
-    EXPECT_FALSE(delay.pending);
+    EXPECT_EQ(watcher.state(), State::none);
+    EXPECT_EQ(changes, 1);
 }
 
 TEST_F(HostWatch, FindsThePanelOnceItHasTakenTheItemAndShowsItems) {
@@ -97,12 +83,11 @@ TEST_F(HostWatch, FindsThePanelOnceItHasTakenTheItemAndShowsItems) {
     EXPECT_EQ(bus.lastOwner, ":1.5");
     answerNext(bus.identifications, HostProcess{42, "waybar"});
     answerNext(bus.hostQuestions, true);
-    EXPECT_EQ(watcher.presence(), Presence::unknown);
+    EXPECT_EQ(watcher.state(), State::silent);
     answerNext(bus.registrations, true);
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::showing);
     ASSERT_TRUE(watcher.process());
     EXPECT_EQ(watcher.process()->command, "waybar");
-    EXPECT_FALSE(delay.pending);
 }
 
 TEST_F(HostWatch, KnowsTheProcessBeforeItRegistersTheItem) {
@@ -112,7 +97,7 @@ TEST_F(HostWatch, KnowsTheProcessBeforeItRegistersTheItem) {
     EXPECT_TRUE(bus.hostQuestions.empty());
     answerNext(bus.identifications, HostProcess{42, "waybar"});
     EXPECT_TRUE(watcher.process());
-    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(changes, 2) << "somebody, then who";
     answerNext(bus.hostQuestions, true);
     EXPECT_EQ(bus.registrations.size(), 1U);
 }
@@ -130,54 +115,43 @@ TEST_F(HostWatch, RegistersTheItemOnceThereIsAPanelToShowIt) {
     EXPECT_EQ(bus.registrations.size(), 1U) << "once";
 }
 
-TEST_F(HostWatch, MissesAPanelThatLeavesItsWatcherBehind) {
+TEST_F(HostWatch, TellsOfAPanelThatLeavesItsWatcherBehind) {
     startWithPanel();
     watcher.hostsChanged();
     answerNext(bus.hostQuestions, false);
-    EXPECT_EQ(watcher.presence(), Presence::present);
-    delay.elapse();
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(watcher.state(), State::silent);
     watcher.hostsChanged();
     answerNext(bus.hostQuestions, true);
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::showing);
     EXPECT_TRUE(bus.registrations.empty()) << "the watcher has it";
 }
 
-TEST_F(HostWatch, GivesUpOnAWatcherThatNeverAnswers) {
+TEST_F(HostWatch, TellsOfAWatcherThatNeverAnswers) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");
-    EXPECT_EQ(watcher.presence(), Presence::unknown);
-    delay.elapse();
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(watcher.state(), State::silent);
+    EXPECT_FALSE(watcher.process());
 }
 
-TEST_F(HostWatch, GivesUpOnABusThatNeverAnswers) {
-    watcher.start(true);
-    delay.elapse();
-    EXPECT_EQ(watcher.presence(), Presence::absent);
-}
-
-TEST_F(HostWatch, GivesUpOnAWatcherThatRefusesTheItem) {
+TEST_F(HostWatch, TellsOfAWatcherThatRefusesTheItem) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "odd"});
     answerNext(bus.hostQuestions, true);
     answerNext(bus.registrations, false);
-    delay.elapse();
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(watcher.state(), State::silent);
 }
 
-TEST_F(HostWatch, GivesUpOnAWatcherWithoutAPanel) {
+TEST_F(HostWatch, TellsOfAWatcherWithoutAPanelAndOfThePanelThatComesLate) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "kded5"});
     answerNext(bus.hostQuestions, false);
-    delay.elapse();
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(watcher.state(), State::silent);
     watcher.hostsChanged();
     answerNext(bus.hostQuestions, true);
     answerNext(bus.registrations, true);
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::showing);
 }
 
 TEST_F(HostWatch, TriesAgainWithAWatcherThatRefusedTheItemAndHasAnotherPanel) {
@@ -189,27 +163,26 @@ TEST_F(HostWatch, TriesAgainWithAWatcherThatRefusedTheItemAndHasAnotherPanel) {
     watcher.hostsChanged();
     answerNext(bus.hostQuestions, true);
     answerNext(bus.registrations, true);
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::showing);
 }
 
-TEST_F(HostWatch, MissesAPanelThatIsGoneOnlyAfterTheDelay) {
+TEST_F(HostWatch, TellsOnceOfAPanelThatIsGone) {
     startWithPanel();
+    const int before = changes;
     watcher.watcherOwnerChanged("");
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::none);
     EXPECT_FALSE(watcher.process());
-    delay.elapse();
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(changes, before + 1);
 }
 
-TEST_F(HostWatch, DoesNotMissAPanelThatIsRestartedInTime) {
+TEST_F(HostWatch, FindsAPanelThatIsRestarted) {
     startWithPanel();
     watcher.watcherOwnerChanged("");
     watcher.watcherOwnerChanged(":1.9");
     EXPECT_EQ(bus.lastOwner, ":1.9");
     answerAll("waybar");
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::showing);
     EXPECT_EQ(watcher.process()->command, "waybar");
-    EXPECT_FALSE(delay.pending);
 }
 
 TEST_F(HostWatch, RegistersWithAWatcherThatReplacesAnother) {
@@ -217,7 +190,7 @@ TEST_F(HostWatch, RegistersWithAWatcherThatReplacesAnother) {
     watcher.watcherOwnerChanged(":1.9");
     answerAll("lxqt-panel");
     EXPECT_EQ(watcher.process()->command, "lxqt-panel");
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::showing);
 }
 
 TEST_F(HostWatch, DoesNotBelieveAnswersOfAFormerWatcher) {
@@ -229,101 +202,78 @@ TEST_F(HostWatch, DoesNotBelieveAnswersOfAFormerWatcher) {
     EXPECT_TRUE(bus.registrations.empty());
     answerNext(bus.identifications, HostProcess{43, "new"});
     EXPECT_EQ(watcher.process()->command, "new");
-    EXPECT_EQ(watcher.presence(), Presence::unknown);
+    EXPECT_EQ(watcher.state(), State::silent);
 }
 
-TEST_F(HostWatch, WaitsFromTheFirstLossOnHoweverOftenThePanelChanges) {
-    startWithPanel();
-    const int before = delay.started;
-    watcher.watcherOwnerChanged("");
+TEST_F(HostWatch, TellsOfEveryChangeOfHandsEvenIfNobodyHasShownTheItem) {
+    watcher.start(true);
+    watcher.watcherOwnerChanged(":1.5");
+    answerNext(bus.identifications, HostProcess{42, "kded5"});
+    const int before = changes;
     watcher.watcherOwnerChanged(":1.9");
-    watcher.watcherOwnerChanged("");
-    EXPECT_EQ(delay.started, before + 1);
+    EXPECT_FALSE(watcher.process());
+    EXPECT_EQ(changes, before + 1);
 }
 
-TEST_F(HostWatch, FindsThePanelAgainAfterItMissedOne) {
-    startWithPanel();
-    watcher.watcherOwnerChanged("");
-    delay.elapse();
-    watcher.watcherOwnerChanged(":1.9");
-    EXPECT_EQ(watcher.presence(), Presence::absent);
-    answerAll();
-    EXPECT_EQ(watcher.presence(), Presence::present);
-}
-
-TEST_F(HostWatch, MissesThePanelWhenTheBusGoesAway) {
+TEST_F(HostWatch, KnowsThatThereIsNobodyWhenTheBusGoesAway) {
     startWithPanel();
     watcher.busLost();
-    delay.elapse();
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(watcher.state(), State::none);
 }
 
 TEST_F(HostWatch, HoldsTheItemBackFromAPanelThatIsNotToHaveIt) {
     watcher.start(true);
-    watcher.setWanted(false);
+    watcher.setOffered(false);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
     watcher.hostsChanged();
     EXPECT_TRUE(bus.registrations.empty());
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_TRUE(bus.hostQuestions.empty());
     EXPECT_EQ(watcher.process()->command, "panel-1-systray");
-    EXPECT_FALSE(delay.pending);
 }
 
 TEST_F(HostWatch, HoldsTheItemBackWhereThatIsDecidedWhileThePanelIsAsked) {
     watcher.start(true);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
-    watcher.setWanted(false);
+    watcher.setOffered(false);
     answerNext(bus.hostQuestions, true);
     EXPECT_TRUE(bus.registrations.empty());
-    EXPECT_EQ(watcher.presence(), Presence::absent);
-    watcher.setWanted(true);
+    watcher.setOffered(true);
     answerNext(bus.hostQuestions, true);
     EXPECT_EQ(bus.registrations.size(), 1U);
 }
 
 TEST_F(HostWatch, OffersTheItemThatItHeldBack) {
     watcher.start(true);
-    watcher.setWanted(false);
+    watcher.setOffered(false);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
-    watcher.setWanted(true);
-    EXPECT_EQ(watcher.presence(), Presence::unknown);
+    watcher.setOffered(true);
     answerNext(bus.hostQuestions, true);
     answerNext(bus.registrations, true);
-    EXPECT_EQ(watcher.presence(), Presence::present);
-}
-
-TEST_F(HostWatch, GivesUpOnAPanelThatIsSilentWhenOfferedWhatWasHeldBack) {
-    watcher.start(true);
-    watcher.setWanted(false);
-    watcher.watcherOwnerChanged(":1.5");
-    answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
-    watcher.setWanted(true);
-    delay.elapse();
-    EXPECT_EQ(watcher.presence(), Presence::absent);
+    EXPECT_EQ(watcher.state(), State::showing);
 }
 
 TEST_F(HostWatch, OffersTheItemOnceToAPanelThatIsToHaveItAgain) {
     startWithPanel();
-    watcher.setWanted(false);
-    watcher.setWanted(true);
+    watcher.setOffered(false);
+    watcher.setOffered(true);
     EXPECT_TRUE(bus.registrations.empty());
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::showing);
 }
 
 TEST_F(HostWatch, OffersTheNextPanelWhatItHeldBackFromTheLast) {
     watcher.start(true);
-    watcher.setWanted(false);
+    watcher.setOffered(false);
     watcher.watcherOwnerChanged(":1.5");
     answerNext(bus.identifications, HostProcess{42, "panel-1-systray"});
     watcher.watcherOwnerChanged("");
-    watcher.setWanted(true);
+    watcher.setOffered(true);
     EXPECT_TRUE(bus.registrations.empty());
     watcher.watcherOwnerChanged(":1.9");
     answerAll("lxqt-panel");
-    EXPECT_EQ(watcher.presence(), Presence::present);
+    EXPECT_EQ(watcher.state(), State::showing);
 }
 
 TEST_F(HostWatch, AsksOnceWhenItIsToldTheSameOwnerTwice) {

@@ -98,6 +98,7 @@ TEST(ItemPlacement, ForgivesAPanelThatRestarts) {
     follow({{0ms, showing, noTray, panel, offered, trayIgnored},
             {1000ms, nobody, noTray, panel, offered, trayIgnored, 4000ms},
             {2000ms, unidentified, noTray, panel, offered, trayIgnored, 4000ms},
+            {3000ms, nobody, noTray, panel, offered, trayIgnored, 4000ms},
             {3900ms, showing, noTray, panel, offered, trayIgnored},
             {5000ms, nobody, noTray, panel, offered, trayIgnored, 8000ms}});
 }

@@ -8,9 +8,7 @@
 #include <QScreen>
 #include <QStyle>
 #include <QToolTip>
-#include <algorithm>
 #include <array>
-#include <chrono>
 #include <string>
 #include <utility>
 
@@ -19,31 +17,12 @@
 
 namespace zephrine {
 
-namespace {
-
-// For a tray that was asked to take the item in, or to come back after it has gone.
-constexpr std::chrono::seconds kPatience{3};
-// Before a tray is asked again that has put the item out. Some do so while they make their own
-// window anew. One that does not want the item is asked ever more seldom: each pause is twice the
-// last one, until the item has stood in a tray for a while.
-constexpr std::chrono::milliseconds kPause{500};
-constexpr std::chrono::milliseconds kLongestPause{64000};
-constexpr std::chrono::milliseconds kWhile{10000};
-
-}  // namespace
-
 TrayItem::TrayItem()
-    : nextPause_(kPause),
-      spoken_({.place = [this] { return place(); },
+    : spoken_({.place = [this] { return place(); },
                .press =
                    [this] {
                        QMetaObject::invokeMethod(this, &TrayItem::pressed, Qt::QueuedConnection);
                    }}) {
-    patience_.setSingleShot(true);
-    patience_.setInterval(kPatience);
-    patience_.callOnTimeout([this] { setPresence(Presence::absent); });
-    pause_.setSingleShot(true);
-    pause_.callOnTimeout([this] { findManager(); });
     rest_.setSingleShot(true);
     rest_.setInterval(QApplication::style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay));
     rest_.callOnTimeout([this] { QToolTip::showText(QCursor::pos(), toolTip_); });
@@ -55,11 +34,7 @@ void TrayItem::setWanted(bool wanted) {
     }
     if (!wanted) {
         leaveTray();
-        manager_ = XCB_WINDOW_NONE;
         connection_.reset();
-        patience_.stop();
-        pause_.stop();
-        setPresence(Presence::absent);
         return;
     }
     connection_ =
@@ -73,11 +48,9 @@ void TrayItem::setWanted(bool wanted) {
     }
 }
 
-void TrayItem::expectTray() {
-    setWanted(true);
-    if (presence_ == Presence::absent) {
-        patience_.start();
-        setPresence(Presence::unknown);
+void TrayItem::askAgain() {
+    if (connection_ && connection_->isOpen()) {
+        findManager();
     }
 }
 
@@ -97,12 +70,13 @@ void TrayItem::setPicture(const StatusItemImage& image, Appearance appearance) {
 }
 
 std::optional<QRect> TrayItem::place() const {
-    return presence_ == Presence::docked ? placeOnScreen(window_->id(), window_->size())
-                                         : std::nullopt;
+    return report_.state == TrayReport::State::holding
+               ? placeOnScreen(window_->id(), window_->size())
+               : std::nullopt;
 }
 
 std::optional<Appearance> TrayItem::surface() const {
-    return presence_ == Presence::docked ? window_->surface() : std::nullopt;
+    return report_.state == TrayReport::State::holding ? window_->surface() : std::nullopt;
 }
 
 void TrayItem::handle(const xcb_generic_event_t& event) {
@@ -163,10 +137,6 @@ void TrayItem::dockWith(xcb_window_t manager) {
     if (!hints_) {
         return;
     }
-    if (presence_ == Presence::absent) {
-        setPresence(Presence::unknown);
-    }
-    patience_.start();
     window_ = std::make_unique<TrayWindow>(
         *connection_, manager, *hints_,
         TrayWindow::Handlers{.placed = [this] { placed(); },
@@ -181,14 +151,11 @@ void TrayItem::dockWith(xcb_window_t manager) {
                              .hovered = [this](bool isOver) { hovered(isOver); }});
     window_->setLength(length_);
     setPicture(image_, appearance_);
+    setState(TrayReport::State::asked);
 }
 
 void TrayItem::placed() {
-    patience_.stop();
-    if (presence_ != Presence::docked) {
-        docked_.start();
-        setPresence(Presence::docked);
-    }
+    setState(TrayReport::State::holding);
     // The tray may stand on a screen of another density.
     const auto at = place();
     if (const auto* screen = at ? QGuiApplication::screenAt(at->center()) : nullptr) {
@@ -202,27 +169,21 @@ void TrayItem::lost(unsigned docking) {
     if (docking != docking_ || !connection_) {
         return;  // it stands in the next tray by now, or is to stand in none
     }
+    ++report_.releases;
     leaveTray();
-    const bool hasStoodAWhile = docked_.isValid() && docked_.hasExpired(kWhile.count());
-    docked_.invalidate();  // the next tray may not even give it a place
-    pause_.start(hasStoodAWhile ? kPause : nextPause_);
-    nextPause_ = std::min(2 * pause_.intervalAsDuration(), kLongestPause);
 }
 
 void TrayItem::leaveTray() {
     hovered(false);
     manager_ = XCB_WINDOW_NONE;
     window_.reset();
-    if (presence_ == Presence::docked) {
-        setPresence(Presence::unknown);
-        patience_.start();
-    }
+    setState(TrayReport::State::none);
 }
 
-void TrayItem::setPresence(Presence presence) {
-    if (std::exchange(presence_, presence) != presence) {
-        spoken_.setShown(presence == Presence::docked);
-        Q_EMIT presenceChanged();
+void TrayItem::setState(TrayReport::State state) {
+    if (std::exchange(report_.state, state) != state) {
+        spoken_.setShown(state == TrayReport::State::holding);
+        Q_EMIT reportChanged();
     }
 }
 

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The item in a tray of X11, for desktops whose panel does not ask for items on the bus. Follows
-// the tray: docks with each new one, and tells when there is none.
+// The item in a tray of X11, for desktops whose panel does not ask for items on the bus. Docks with
+// each tray that turns up, and reports what becomes of it.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QRect>
 #include <QString>
 #include <QTimer>
-#include <chrono>
 #include <memory>
 #include <optional>
 
 #include "platform/StatusBar.h"
+#include "platform/qt/statusitem/ItemPlacement.h"
 #include "platform/qt/statusitem/tray/SpokenTrayItem.h"
 #include "platform/qt/statusitem/tray/TrayHints.h"
 #include "platform/qt/statusitem/tray/TrayWindow.h"
@@ -24,19 +23,13 @@ class TrayItem final : public QObject {
     Q_OBJECT
 
 public:
-    enum class Presence {
-        unknown,  ///< a tray has been asked
-        docked,
-        absent,
-    };
-
     TrayItem();
 
     /// Whether the item should stand in a tray at all; it does not at first.
     void setWanted(bool wanted);
-    /// It should, and a tray is there or about to come: it is missed only after three seconds.
-    void expectTray();
-    [[nodiscard]] Presence presence() const { return presence_; }
+    /// Asks the tray that has let the item go, if it is still there, to take it in again.
+    void askAgain();
+    [[nodiscard]] const TrayReport& report() const { return report_; }
     /// Points from the left end to the right end, where the tray leaves it the choice.
     void setLength(double length);
     void setPicture(const StatusItemImage& image, Appearance appearance);
@@ -50,7 +43,7 @@ public:
     /// How the tray behind the item looks; absent when it cannot be told.
     [[nodiscard]] std::optional<Appearance> surface() const;
 
-    Q_SIGNAL void presenceChanged();
+    Q_SIGNAL void reportChanged();
     Q_SIGNAL void placeChanged();
     Q_SIGNAL void clicked();
 
@@ -63,7 +56,7 @@ private:
     void placed();
     void lost(unsigned docking);
     void leaveTray();
-    void setPresence(Presence presence);
+    void setState(TrayReport::State state);
 
     std::unique_ptr<X11Client> connection_;  // only while it is wanted
     xcb_atom_t selection_ = XCB_ATOM_NONE;
@@ -71,18 +64,14 @@ private:
     xcb_window_t manager_ = XCB_WINDOW_NONE;
     std::optional<TrayHints> hints_;  ///< the manager's
     std::unique_ptr<TrayWindow> window_;
-    QTimer patience_;
     unsigned docking_ = 0;  ///< the number of the window
     double density_ = 1;    ///< device pixels per point on the screen of the tray
-    QElapsedTimer docked_;
-    QTimer pause_;  ///< before the tray is asked again
-    std::chrono::milliseconds nextPause_;
-    QTimer rest_;  ///< of the pointer, until the tip is shown
+    QTimer rest_;           ///< of the pointer, until the tip is shown
     QString toolTip_;
     double length_ = 0;
     StatusItemImage image_;
     Appearance appearance_ = Appearance::aqua;
-    Presence presence_ = Presence::absent;
+    TrayReport report_;
     SpokenTrayItem spoken_;  // asks the others where they are
 };
 
