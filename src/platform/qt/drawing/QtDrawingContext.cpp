@@ -11,6 +11,7 @@
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Fonts.h"
 #include "platform/qt/drawing/PlainText.h"
+#include "text/SingleLine.h"
 
 namespace zephrine {
 
@@ -112,7 +113,7 @@ void QtDrawingContext::drawText(std::string_view text, Point origin, const Font&
     painter_.setFont(drawn);
     painter_.setPen(resolve(color, appearance_));
     painter_.drawText(onDeviceRow(painter_, flipped(Point{origin.x, origin.y + descent})),
-                      singleLine(fromUTF8(text)));
+                      fromUTF8(singleLine(text)));
 }
 
 }  // namespace zephrine
