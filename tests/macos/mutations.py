@@ -9,7 +9,7 @@ class Mutation:
     """`old` becomes `new` in `source`; `check` is what must then fail."""
 
     what: str
-    check: str  # "arm64" or "x86_64" for the compiler, "analyzer", "link"
+    check: str  # "arm64", "x86_64" or "newest" for the compiler, "analyzer", "operations", "link"
     source: str
     old: str
     new: str
@@ -85,9 +85,25 @@ COMPILER = [
         what="an operation newer than the oldest system, unguarded",
         check="arm64",
         source="MacApplication.mm",
-        old="if (@available(macOS 14.0, *))",
-        new="if (application_ != nil)",
+        old="activateIgnoringOtherApps:YES",
+        new="activate",
         because="-Wunguarded-availability-new",
+    ),
+    Mutation(
+        what="a deprecated operation called without a word",
+        check="newest",
+        source="MacApplication.mm",
+        old='#pragma clang diagnostic ignored "-Wdeprecated-declarations"',
+        new="",
+        because="'activateIgnoringOtherApps:' is deprecated",
+    ),
+    Mutation(
+        what="a deprecated operation called after the one that may be",
+        check="newest",
+        source="MacApplication.mm",
+        old="    // The workspace has",
+        new="    [application_ activateIgnoringOtherApps:NO];\n    // The workspace has",
+        because="'activateIgnoringOtherApps:' is deprecated",
     ),
     Mutation(
         what="a delegate without its protocol",
@@ -96,6 +112,30 @@ COMPILER = [
         old=" <NSPopoverDelegate>",
         new="",
         because="assigning to 'id<NSPopoverDelegate>",
+    ),
+    Mutation(
+        what="a window's delegate without its protocol",
+        check="arm64",
+        source="windows/MacWindow.mm",
+        old=" <NSWindowDelegate>",
+        new="",
+        because="assigning to 'id<NSWindowDelegate>",
+    ),
+    Mutation(
+        what="a view taken for a content host",
+        check="arm64",
+        source="windows/MacContentHost.mm",
+        old="isHost ? static_cast<ZephrineContentHost*>(before) : nil",
+        new="before",
+        because="-Wincompatible-pointer-types",
+    ),
+    Mutation(
+        what="a view of the seam handed to AppKit",
+        check="arm64",
+        source="windows/MacPopover.mm",
+        old="setContent:nativeView(view)",
+        new="setContent:view",
+        because="no viable conversion from 'zephrine::View' to 'NSView *'",
     ),
     Mutation(
         what="Mach's macros seen before the seam's enumeration",
@@ -226,6 +266,66 @@ ANALYZER = [
         old="CFRelease(session);",
         new="CFRelease(session); CFRelease(session);",
         because="used after it is released",
+    ),
+]
+
+# Texts that compile either way.
+OPERATIONS = [
+    Mutation(
+        what="a popover that does not take its content in when it is shown",
+        check="operations",
+        source="windows/MacPopover.mm",
+        old="    [host_ take];\n",
+        new="",
+        because="MacPopover.mm/[host_~take] is called nowhere",
+    ),
+    Mutation(
+        what="a window that does not take its content in when it is shown",
+        check="operations",
+        source="windows/MacWindow.mm",
+        old="    [host_ take];\n",
+        new="",
+        because="MacWindow.mm/[host_~take] is called nowhere",
+    ),
+    Mutation(
+        what="a window that does not return its content when it is closed",
+        check="operations",
+        source="windows/MacWindow.mm",
+        old="[host_ giveBack];",
+        new="",
+        because="MacWindow.mm/[host_~giveBack] is called nowhere",
+    ),
+    Mutation(
+        what="an application that only asks for the activation",
+        check="operations",
+        source="MacApplication.mm",
+        old="[application_ activateIgnoringOtherApps:YES];",
+        new="if (@available(macOS 14.0, *)) { [application_ activate]; }",
+        because="activateIgnoringOtherApps:YES is called nowhere",
+    ),
+    Mutation(
+        what="an activity that says that the user waits for it",
+        check="operations",
+        source="MacApplication.mm",
+        old="NSActivityBackground",
+        new="NSActivityUserInitiatedAllowingIdleSystemSleep",
+        because="beginActivityWithOptions:NSActivityBackground is called nowhere",
+    ),
+    Mutation(
+        what="a label that starts with its line breaks",
+        check="operations",
+        source="widgets/MacLabel.mm",
+        old="labelWithString:nsLine(text)",
+        new="labelWithString:nsString(text)",
+        because="labelWithString:nsLine( is called nowhere",
+    ),
+    Mutation(
+        what="a label that is given its line breaks later",
+        check="operations",
+        source="widgets/MacLabel.mm",
+        old="field_.stringValue = nsLine(text)",
+        new="field_.stringValue = nsString(text)",
+        because="field_.stringValue~=~nsLine( is called nowhere",
     ),
 ]
 
