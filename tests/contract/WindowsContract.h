@@ -144,6 +144,21 @@ TYPED_TEST_P(WindowsContract, AHostThatWasGivenAnotherViewKeepsThat) {
     EXPECT_EQ(this->harness.placeOf(*other), nullptr) << "what stood there leaves";
 }
 
+TYPED_TEST_P(WindowsContract, AHostReturnsNothingToOneThatWasGivenAnotherView) {
+    const auto other = this->harness.widgets().makeView(this->frame);
+    const auto another = this->harness.windows().makeWindow("Another", this->frame.size());
+    const void* const inPopover = this->handTo(this->popover);
+    this->handTo(this->window);
+    this->show();
+    this->window->setContentView(*other);
+    another->setContentView(*other);
+    const void* const ofOther = this->harness.placeOf(*other);
+    this->popover->performClose();
+    this->waitForClosing(1);
+    EXPECT_EQ(this->place(), inPopover);
+    EXPECT_EQ(this->harness.placeOf(*other), ofOther) << "nor does that one take it back";
+}
+
 TYPED_TEST_P(WindowsContract, APopoverTellsOnceThatItHasClosedWhenAllIsInPlaceAgain) {
     this->handTo(this->popover);
     const void* const inWindow = this->handTo(this->window);
@@ -219,6 +234,7 @@ REGISTER_TYPED_TEST_SUITE_P(WindowsContract, AViewStandsInTheHostThatWasGivenItL
                             AClosedWindowReturnsItsContentAndTakesItInWhenItIsShownAgain,
                             AViewOutlivesItsHosts, AHostReturnsNothingToOneThatHasGone,
                             AHostThatWasGivenAnotherViewKeepsThat,
+                            AHostReturnsNothingToOneThatWasGivenAnotherView,
                             APopoverTellsOnceThatItHasClosedWhenAllIsInPlaceAgain,
                             APopoverThatIsNotShownHasNothingToClose, APopoverClosesWithoutAHandler,
                             APopoverThatIsShownTwiceIsShownOnce,
