@@ -26,7 +26,11 @@ void AppDelegate::showDashboard() {
     updateDashboard();
     application_.activateIgnoringOtherApps();
     popover->showRelativeTo(*button);
-    startProcessUpdates();
+    // A popover that could not open, since the system has hidden the item, will not close either:
+    // nothing would ever stop what is started here.
+    if (popover->isShown()) {
+        startProcessUpdates();
+    }
 }
 
 bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {

@@ -85,6 +85,19 @@ TEST_F(PanelPresentationTest, AnItemWithoutAButtonShowsNothing) {
     EXPECT_EQ(application().activations, 0);
 }
 
+TEST_F(PanelPresentationTest, NothingRunsForAPopoverThatCouldNotOpen) {
+    launch();
+    popover().itemIsHidden = true;
+    button().action();
+    EXPECT_FALSE(popover().shown);
+    EXPECT_EQ(loop().timers.size(), 1U) << "the refresh timer alone";
+    EXPECT_TRUE(worker().jobs.empty()) << "no process is looked at";
+    popover().itemIsHidden = false;
+    button().action();
+    EXPECT_TRUE(popover().shown);
+    EXPECT_EQ(loop().timers.size(), 2U);
+}
+
 TEST_F(PanelPresentationTest, AClosedPopoverLeavesTheRefreshTimerRunning) {
     launch({"--show-dashboard"});
     EXPECT_EQ(loop().timers.size(), 2U);

@@ -9,6 +9,9 @@
 
 namespace zephrine {
 
+/// Stands for a host that a content view can stand in, for as long as that exists.
+struct FakePlace {};
+
 class FakeView : public virtual View {
 public:
     std::string kind = "view";
@@ -17,6 +20,7 @@ public:
     std::string accessibilityLabel;
     std::string accessibilityValue;
     std::string toolTip;
+    std::weak_ptr<FakePlace> place;  ///< of a content view: the host that it stands in, if any
 
     void setFrame(const Rect& frame) override { rect = frame; }
     [[nodiscard]] Rect frame() const override { return rect; }

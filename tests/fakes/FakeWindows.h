@@ -5,51 +5,99 @@
 #include <utility>
 #include <vector>
 
+#include "fakes/FakeWidgets.h"
 #include "platform/Windows.h"
 
 namespace zephrine {
 
-class FakePopover : public Popover {
+/// What the popover and the windows have in common: a place for a content view.
+class FakeHost {
 public:
-    View* content = nullptr;
+    View* content = nullptr;  ///< the view that it was given last, wherever that stands now
+
+protected:
+    void give(View& view) {
+        if (std::exchange(content, &view) != &view) {
+            place_ =
+                std::make_shared<FakePlace>();  // the former content stands nowhere from now on
+        }
+        take();
+    }
+    void take() {
+        if (content != nullptr) {
+            FakeView& view = fake<FakeView>(*content);
+            const auto before = view.place.lock();
+            if (before != place_) {
+                lender_ = before;
+                view.place = place_;
+            }
+        }
+    }
+    void giveBack() {
+        const auto lender = std::exchange(lender_, {}).lock();
+        if (lender != nullptr && fake<FakeView>(*content).place.lock() == place_) {
+            fake<FakeView>(*content).place = lender;
+        }
+    }
+
+private:
+    std::shared_ptr<FakePlace> place_ = std::make_shared<FakePlace>();
+    std::weak_ptr<FakePlace> lender_;
+};
+
+class FakePopover : public Popover, public FakeHost {
+public:
     Size size;
     StatusItemButton* anchor = nullptr;
     bool shown = false;
+    bool itemIsHidden = false;  ///< by the system, as it does where there is no room
     std::function<void()> didClose;
 
-    void setContentView(View& view) override { content = &view; }
+    void setContentView(View& view) override { give(view); }
     void setContentSize(Size newSize) override { size = newSize; }
     void setDidCloseHandler(std::function<void()> handler) override {
         didClose = std::move(handler);
     }
     [[nodiscard]] bool isShown() const override { return shown; }
     void showRelativeTo(StatusItemButton& button) override {
+        if (shown || itemIsHidden) {
+            return;
+        }
         anchor = &button;
+        take();
         shown = true;
     }
     void performClose() override {
         if (shown) {
             shown = false;
-            didClose();
+            giveBack();
+            if (didClose) {
+                didClose();
+            }
         }
     }
 };
 
-class FakeWindow : public Window {
+class FakeWindow : public Window, public FakeHost {
 public:
     FakeWindow(std::string text, Size contentSize) : title(std::move(text)), size(contentSize) {}
     std::string title;
     Size size;
-    View* content = nullptr;
     bool visible = false;
     std::vector<std::string> calls;
 
-    void setContentView(View& view) override { content = &view; }
+    void setContentView(View& view) override { give(view); }
     [[nodiscard]] bool isVisible() const override { return visible; }
     void center() override { calls.emplace_back("center"); }
     void makeKeyAndOrderFront() override {
         calls.emplace_back("makeKeyAndOrderFront");
+        take();
         visible = true;
+    }
+    /// Does what a user's click on the close button does.
+    void close() {
+        visible = false;
+        giveBack();
     }
 };
 

@@ -2,15 +2,16 @@
 # SPDX-License-Identifier: MIT
 """The operations of the system that the back end is there to call. Run by itself it prints where
 each one is called; the check fails when one is called nowhere."""
+import pathlib
 import re
 
 from apple_build import BACK_END
 
 OPERATIONS = {
     "The application": """NSApplication.sharedApplication application_.delegate setActivationPolicy:
-        [application_~run] terminate: activateIgnoringOtherApps: [application_~activate]
+        [application_~run] terminate: activateIgnoringOtherApps:YES
         applicationDidFinishLaunching: applicationShouldHandleReopen: applicationIconImage
-        beginActivityWithOptions:""",
+        beginActivityWithOptions:NSActivityBackground endActivity:""",
     "Notifications": """NSWorkspace.sharedWorkspace.notificationCenter NSWorkspaceDidWakeNotification
         NSDistributedNotificationCenter AppleInterfaceThemeChangedNotification""",
     "Timers and threads": """timerWithTimeInterval: timer.tolerance addTimer: NSRunLoopCommonModes
@@ -35,43 +36,53 @@ OPERATIONS = {
         monospacedSystemFontOfSize: labelColor secondaryLabelColor quaternaryLabelColor
         systemBlueColor systemGreenColor systemOrangeColor systemPurpleColor systemRedColor
         whiteColor blackColor""",
-    "Controls": """labelWithString: field_.font field_.textColor field_.alignment lineBreakMode
+    "Controls": """labelWithString:nsLine( field_.stringValue~=~nsLine( field_.font field_.textColor field_.alignment lineBreakMode
         imageNamed: buttonWithTitle: NSBezelStyleRounded checkboxWithTitle: button_.state
         pullsDown:NO selectItemAtIndex: indexOfSelectedItem segmentedControlWithLabels:
         selectedSegment NSBoxSeparator drawRect: needsDisplay addSubview: accessibilityValue""",
     "Windows": """NSPopoverBehaviorTransient popover_.delegate popover_.contentViewController
         popover_.contentSize showRelativeToRect: NSRectEdgeMinY popover_.shown performClose:
         popoverDidClose: makeKeyWindow initWithContentRect: NSWindowStyleMaskClosable
-        window_.title releasedWhenClosed makeKeyAndOrderFront: [window_~center] window_.visible""",
+        window_.title releasedWhenClosed makeKeyAndOrderFront: [window_~center] window_.visible
+        window_.delegate window_.contentView windowWillClose: MacPopover.mm/[host_~take]
+        MacPopover.mm/[host_~giveBack] MacWindow.mm/[host_~take] MacWindow.mm/[host_~giveBack]""",
     "Alert": "alert.messageText alert.informativeText runModal]",
 }
 
 
-def places(operation: str) -> list[str]:
-    """Where the sources name it, outside comments; "~" stands for a blank."""
-    pattern = re.compile(r"(?<!\w)" + re.escape(operation.replace("~", " ")))
+def back_end_texts() -> dict[pathlib.Path, str]:
+    return {source: source.read_text() for source in sorted(BACK_END.rglob("*.mm"))}
+
+
+def places(operation: str, texts: dict[pathlib.Path, str]) -> list[str]:
+    """Where the sources name it, outside comments; "~" stands for a blank, and what comes before a
+    "/" for the one file that has to name it."""
+    *only, name = operation.split("/")
+    pattern = re.compile(r"(?<!\w)" + re.escape(name.replace("~", " ")))
     return [
         f"{source.relative_to(BACK_END)}:{number}"
-        for source in sorted(BACK_END.rglob("*.mm"))
-        for number, line in enumerate(source.read_text().splitlines(), 1)
+        for source, text in texts.items() if not only or source.name in only
+        for number, line in enumerate(text.splitlines(), 1)
         if pattern.search(line.split("//")[0])
     ]
 
 
-def missing_operations() -> list[str]:
+def missing_operations(texts: dict[pathlib.Path, str]) -> list[str]:
     return [
         f"{operation} is called nowhere"
-        for names in OPERATIONS.values() for operation in names.split() if not places(operation)
+        for names in OPERATIONS.values() for operation in names.split()
+        if not places(operation, texts)
     ]
 
 
 def main() -> None:
+    texts = back_end_texts()
     for group, names in OPERATIONS.items():
         print(f"\n{group}\n")
         print("| operation | where, in src/platform/macos |\n|---|---|")
         for operation in names.split():
-            name = operation.replace("~", " ").lstrip(":").strip("();")
-            print(f"| `{name}` | {', '.join(places(operation)[:3])} |")
+            name = operation.split("/")[-1].replace("~", " ").lstrip(":").strip("();")
+            print(f"| `{name}` | {', '.join(places(operation, texts)[:3])} |")
 
 
 if __name__ == "__main__":

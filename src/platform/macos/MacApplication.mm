@@ -8,11 +8,14 @@ namespace zephrine {
 MacApplication::MacApplication()
     : application_(NSApplication.sharedApplication),
       delegate_([[ZephrineApplicationDelegate alloc] init]),
-      // An application without a window counts as idle, and App Nap would stretch its timers to
-      // many seconds. This keeps it awake, but not the machine; the timers' tolerance still lets
-      // the system group wake-ups.
+      // An application that is never in front and draws nothing for a while, because no figure has
+      // changed, naps: its timers then fire once in many seconds. One that has any activity under
+      // way does not (Energy Efficiency Guide for Mac Apps, "Extend App Nap"). A background
+      // activity is the least of them: it claims neither that the user waits for the work nor that
+      // its timers be punctual, so that their tolerance keeps its effect, and lets the machine
+      // sleep.
       activity_([NSProcessInfo.processInfo
-          beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+          beginActivityWithOptions:NSActivityBackground
                             reason:@"Keeping the figures in the menu bar current"]) {
     application_.delegate = delegate_;
 }
@@ -43,13 +46,13 @@ void MacApplication::terminate() {
 }
 
 void MacApplication::activateIgnoringOtherApps() {
-    // Deprecated from 14 on, where activation is cooperative. A click on our item makes it ours to
-    // ask for either way. A transient popover needs it before it opens.
-    if (@available(macOS 14.0, *)) {
-        [application_ activate];
-    } else {
-        [application_ activateIgnoringOtherApps:YES];
-    }
+    // Deprecated from 14 on in favour of `activate`, which only asks: the application in front has
+    // to yield, and where it does not, the windows of a program in the menu bar open behind its
+    // own. A transient popover needs the activation before it opens.
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wdeprecated-declarations"
+    [application_ activateIgnoringOtherApps:YES];
+#pragma clang diagnostic pop
 }
 
 void MacApplication::observeDidWake(std::function<void()> handler) {

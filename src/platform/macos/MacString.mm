@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/macos/MacString.h"
 
+#include "text/SingleLine.h"
 #include "text/UTF8.h"
 
 namespace zephrine {
@@ -21,6 +22,10 @@ NSString* nsString(std::string_view text) {
         string = decoded(repairedUTF8(text));
     }
     return string != nil ? string : @"";
+}
+
+NSString* nsLine(std::string_view text) {
+    return nsString(singleLine(text));
 }
 
 std::string utf8String(NSString* text) {

@@ -6,6 +6,7 @@ NS_ASSUME_NONNULL_BEGIN
 @class NSWindow;
 @interface NSResponder : NSObject
 - (instancetype)init NS_DESIGNATED_INITIALIZER;
+- (void)cancelOperation:(nullable id)sender;
 @end
 @interface NSView : NSResponder
 - (instancetype)initWithFrame:(NSRect)frame NS_DESIGNATED_INITIALIZER;
@@ -15,6 +16,7 @@ NS_ASSUME_NONNULL_BEGIN
 @property NSRect frame;
 @property NSRect bounds;
 @property BOOL needsDisplay;
+@property(readonly) NSSize intrinsicContentSize;
 @property(readonly, getter=isFlipped) BOOL flipped;
 @property(nullable, copy) NSString* toolTip;
 - (void)setFrameSize:(NSSize)size;
@@ -77,6 +79,8 @@ typedef NS_ENUM(NSUInteger, NSLineBreakMode) {
 + (instancetype)labelWithString:(NSString*)s
     __attribute__((availability(macos, introduced = 10.12)));
 @property(nullable, copy) NSColor* textColor;
+@property(getter=isEditable) BOOL editable;
+@property(getter=isSelectable) BOOL selectable;
 @end
 typedef NS_ENUM(NSUInteger, NSImageScaling) {
     NSImageScaleProportionallyDown = 0,
@@ -119,6 +123,8 @@ typedef NS_ENUM(NSUInteger, NSBezelStyle) { NSBezelStyleRounded = 1 };
 - (void)selectItemAtIndex:(NSInteger)i;
 @property(readonly) NSInteger indexOfSelectedItem;
 @property(readonly) NSInteger numberOfItems;
+@property(readonly, copy) NSArray<NSString*>* itemTitles;
+@property BOOL pullsDown;
 @property(nullable, strong) NSMenu* menu;
 @end
 typedef NS_ENUM(NSUInteger, NSSegmentSwitchTracking) {
@@ -134,6 +140,7 @@ typedef NS_ENUM(NSUInteger, NSSegmentSwitchTracking) {
     __attribute__((availability(macos, introduced = 10.12)));
 @property NSInteger selectedSegment;
 @property NSInteger segmentCount;
+- (nullable NSString*)labelForSegment:(NSInteger)segment;
 @end
 typedef NS_ENUM(NSUInteger, NSBoxType) { NSBoxPrimary = 0, NSBoxSeparator = 2, NSBoxCustom = 4 };
 @interface NSBox : NSView

@@ -14,17 +14,24 @@ typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
     NSWindowStyleMaskResizable = 1 << 3
 };
 typedef NS_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
+@protocol NSWindowDelegate <NSObject>
+@optional
+- (void)windowWillClose:(NSNotification*)n;
+@end
 @interface NSWindow : NSResponder
 - (instancetype)initWithContentRect:(NSRect)rect
                           styleMask:(NSWindowStyleMask)style
                             backing:(NSBackingStoreType)backing
                               defer:(BOOL)flag NS_DESIGNATED_INITIALIZER;
 @property(copy) NSString* title;
+@property(nullable, weak) id<NSWindowDelegate> delegate;
+@property NSWindowStyleMask styleMask;
 @property(nullable, strong) __kindof NSView* contentView;
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property(readonly, getter=isVisible) BOOL visible;
 - (void)center;
 - (void)close;
+- (void)performClose:(nullable id)sender;
 - (void)makeKeyWindow;
 - (void)makeKeyAndOrderFront:(nullable id)sender;
 @end

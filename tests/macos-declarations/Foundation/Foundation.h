@@ -189,14 +189,7 @@ FOUNDATION_EXPORT NSRunLoopMode const NSRunLoopCommonModes;
 - (void)addTimer:(NSTimer*)timer forMode:(NSRunLoopMode)mode;
 - (void)runUntilDate:(NSDate*)date;
 @end
-typedef NS_OPTIONS(uint64_t, NSActivityOptions) {
-    NSActivityIdleSystemSleepDisabled = (1ULL << 20),
-    NSActivityUserInitiated = (0x00FFFFFFULL | NSActivityIdleSystemSleepDisabled),
-    NSActivityUserInitiatedAllowingIdleSystemSleep = (NSActivityUserInitiated &
-                                                      ~NSActivityIdleSystemSleepDisabled),
-    NSActivityBackground = 0x000000FFULL,
-    NSActivityLatencyCritical = 0xFF00000000ULL
-};
+typedef NS_OPTIONS(uint64_t, NSActivityOptions) { NSActivityBackground = 0x000000FFULL };
 @interface NSProcessInfo : NSObject
 @property(class, readonly, strong) NSProcessInfo* processInfo;
 @property(readonly) NSUInteger activeProcessorCount;

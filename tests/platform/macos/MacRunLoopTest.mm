@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <mutex>
+#include <chrono>
+#include <future>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -32,40 +34,37 @@ TEST(MacBackgroundWorker, RunsJobsInOrderOffTheMainThread) {
     std::vector<int> order;
     std::thread::id ranOn;
     {
+        std::promise<void> finished;
         MacBackgroundWorker worker;
-        std::mutex finished;
-        finished.lock();
         worker.perform([&] {
             order.push_back(1);
             ranOn = std::this_thread::get_id();
         });
         worker.perform([&] {
             order.push_back(2);
-            finished.unlock();
+            finished.set_value();
         });
-        finished.lock();
-        finished.unlock();
+        finished.get_future().wait();
     }
     EXPECT_EQ(order, (std::vector<int>{1, 2}));
     EXPECT_NE(ranOn, std::this_thread::get_id());
 }
 
 TEST(MacBackgroundWorker, DropsWhatIsStillQueuedWhenItIsDestroyed) {
-    std::mutex started;
-    std::mutex mayEnd;
+    std::promise<void> started;
+    std::promise<void> mayEnd;
     bool ranLate = false;
-    started.lock();
-    mayEnd.lock();
     auto worker = std::make_unique<MacBackgroundWorker>();
     worker->perform([&] {
-        started.unlock();
-        mayEnd.lock();
+        started.set_value();
+        mayEnd.get_future().wait();
     });
     worker->perform([&] { ranLate = true; });
-    started.lock();
+    started.get_future().wait();
     std::thread releaser([&] {
+        // Time for the end to begin: nothing tells when it waits for the job.
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
-        mayEnd.unlock();
+        mayEnd.set_value();
     });
     worker.reset();
     releaser.join();

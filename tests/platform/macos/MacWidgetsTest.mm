@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "contract/WidgetContract.h"
+#include "platform/macos/MacString.h"
 #include "platform/macos/widgets/MacView.h"
 
 #import <AppKit/AppKit.h>
@@ -28,16 +29,34 @@ struct MacWidgetHarness {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Mac, WidgetContract, MacWidgetHarness);
 
-TEST(MacWidgets, ShowAContentInTheContainerThatWasGivenItLast) {
+TEST(MacWidgets, ShowALineBreakAsASpaceWithoutTheFieldsSingleLineMode) {
     MacWidgetFactory make;
-    const auto content = make.makeView({0, 0, 360, 660});
-    NSView* first = [[NSView alloc] initWithFrame:NSRect{}];
-    NSView* second = [[NSView alloc] initWithFrame:NSRect{}];
-    setContent(first, *content);
-    EXPECT_EQ(nativeView(*content).superview, first);
-    setContent(second, *content);
-    EXPECT_EQ(nativeView(*content).superview, second);
-    EXPECT_EQ(first.subviews.count, 0U);
+    const auto label = make.makeLabel("two\nlines");
+    NSTextField* native = static_cast<NSTextField*>(nativeView(*label));
+    EXPECT_EQ(utf8String(native.stringValue), "two lines");
+    label->setStringValue("three\r\nmore");
+    EXPECT_EQ(utf8String(native.stringValue), "three  more");
+    // It would fix the baseline, whatever the font.
+    EXPECT_FALSE(native.usesSingleLineMode);
+    EXPECT_FALSE(native.editable);
+    EXPECT_FALSE(native.selectable);
+}
+
+TEST(MacWidgets, TickTheCheckBoxThatIsClickedAndTellAsMuch) {
+    MacWidgetFactory make;
+    const auto box = make.makeCheckBox("Launch Zephrine at login");
+    NSButton* native = static_cast<NSButton*>(nativeView(*box));
+    EXPECT_EQ(native.state, NSControlStateValueOff);
+    EXPECT_FALSE(box->isOn());
+    box->setOn(true);
+    EXPECT_EQ(native.state, NSControlStateValueOn);
+    EXPECT_TRUE(box->isOn());
+    int calls = 0;
+    box->setAction([&] { ++calls; });
+    [native performClick:nil];
+    EXPECT_EQ(native.state, NSControlStateValueOff);
+    EXPECT_FALSE(box->isOn());
+    EXPECT_EQ(calls, 1);
 }
 
 TEST(MacWidgets, MakeAnElementOfAViewThatIsNamed) {

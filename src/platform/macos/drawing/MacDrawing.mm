@@ -43,15 +43,15 @@ void MacDrawingContext::stroke(const Path& path) {
 
 void MacDrawingContext::drawText(std::string_view text, Point origin, const Font& font,
                                  Color color) {
-    [nsString(text) drawAtPoint:nsPoint(origin)
-                 withAttributes:@{
-                     NSFontAttributeName : nsFont(font),
-                     NSForegroundColorAttributeName : nsColor(color)
-                 }];
+    [nsLine(text) drawAtPoint:nsPoint(origin)
+               withAttributes:@{
+                   NSFontAttributeName : nsFont(font),
+                   NSForegroundColorAttributeName : nsColor(color)
+               }];
 }
 
 Size MacTextMeasure::sizeOfText(std::string_view text, const Font& font) const {
-    return fromNSSize([nsString(text) sizeWithAttributes:@{NSFontAttributeName : nsFont(font)}]);
+    return fromNSSize([nsLine(text) sizeWithAttributes:@{NSFontAttributeName : nsFont(font)}]);
 }
 
 NSImage* nsImage(const Image& image) {

@@ -26,18 +26,17 @@ NSTextAlignment nsTextAlignment(TextAlignment alignment) {
 }  // namespace
 
 MacLabel::MacLabel(const std::string& text)
-    : MacLabel([NSTextField labelWithString:nsString(text)], text) {}
+    : MacLabel([NSTextField labelWithString:nsLine(text)], text) {}
 
 MacLabel::MacLabel(NSTextField* field, const std::string& text)
-    : MacView(field), field_(field), text_(text) {
-    // A process may have a line break in its name.
-    field_.usesSingleLineMode = YES;
-}
+    : MacView(field), field_(field), text_(text) {}
 
 void MacLabel::setStringValue(const std::string& text) {
     if (text != text_) {
         text_ = text;
-        field_.stringValue = nsString(text);
+        // On one line by its characters: the field's own single-line mode would put the baseline of
+        // every font, the large figures' as well, where that of the standard one belongs.
+        field_.stringValue = nsLine(text);
     }
 }
 

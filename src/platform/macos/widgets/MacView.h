@@ -32,7 +32,4 @@ private:
 /// The native side of a view that this back end made, which all views are here.
 NSView* nativeView(View& view);
 
-/// Shows `view` as the one content of `container`, out of wherever it stood before.
-void setContent(NSView* container, View& view);
-
 }  // namespace zephrine

@@ -39,7 +39,7 @@ void MacView::setAccessibilityValue(const std::string& value) {
 }
 
 void MacView::setToolTip(const std::string& text) {
-    NSString* toolTip = nsString(text);
+    NSString* toolTip = nsLine(text);
     if (![view_.toolTip isEqualToString:toolTip]) {
         view_.toolTip = toolTip;
     }
@@ -49,17 +49,6 @@ NSView* nativeView(View& view) {
     const auto* ours = dynamic_cast<const MacView*>(&view);
     require(ours != nullptr);
     return ours->view();
-}
-
-void setContent(NSView* container, View& view) {
-    NSView* content = nativeView(view);
-    if (content.superview == container) {
-        return;
-    }
-    for (NSView* former in container.subviews) {  // a copy, which may change under the loop
-        [former removeFromSuperview];
-    }
-    [container addSubview:content];
 }
 
 }  // namespace zephrine

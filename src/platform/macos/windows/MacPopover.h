@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Windows.h"
+#include "platform/macos/windows/MacContentHost.h"
 
 #import <AppKit/AppKit.h>
 
@@ -25,8 +26,12 @@ public:
     void performClose() override;
 
 private:
+    void closed();
+
     NSPopover* popover_;
-    ZephrinePopoverDelegate* delegate_;
+    ZephrineContentHost* host_;
+    std::function<void()> didClose_;
+    ZephrinePopoverDelegate* delegate_;  // the popover holds it weakly
 };
 
 }  // namespace zephrine

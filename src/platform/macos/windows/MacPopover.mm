@@ -22,31 +22,35 @@
 namespace zephrine {
 
 MacPopover::MacPopover()
-    : popover_([[NSPopover alloc] init]), delegate_([[ZephrinePopoverDelegate alloc] init]) {
+    : popover_([[NSPopover alloc] init]),
+      host_([[ZephrineContentHost alloc] initWithFrame:NSRect{}]),
+      delegate_([[ZephrinePopoverDelegate alloc] init]) {
     NSViewController* controller = [[NSViewController alloc] init];
     // Given a view, the controller does not look for a nib of its own name.
-    controller.view = [[NSView alloc] initWithFrame:NSRect{}];
+    controller.view = host_;
     popover_.contentViewController = controller;
     popover_.behavior = NSPopoverBehaviorTransient;
     popover_.delegate = delegate_;
+    [delegate_ setHandler:[this] { closed(); }];
 }
 
 MacPopover::~MacPopover() {
     popover_.delegate = nil;
     [popover_ close];
+    [host_ empty];
 }
 
 void MacPopover::setContentView(View& view) {
-    setContent(popover_.contentViewController.view, view);
+    [host_ setContent:nativeView(view)];
 }
 
 void MacPopover::setContentSize(Size size) {
-    [popover_.contentViewController.view setFrameSize:nsSize(size)];
+    [host_ setFrameSize:nsSize(size)];
     popover_.contentSize = nsSize(size);
 }
 
 void MacPopover::setDidCloseHandler(std::function<void()> handler) {
-    [delegate_ setHandler:std::move(handler)];
+    didClose_ = std::move(handler);
 }
 
 bool MacPopover::isShown() const {
@@ -58,10 +62,16 @@ void MacPopover::showRelativeTo(StatusItemButton& button) {
     NSView* anchor = static_cast<MacStatusItemButton&>(button).view();
     // An item that the system has hidden has no window, and AppKit raises an exception for a
     // popover without one.
-    if (anchor.window == nil) {
+    if (isShown() || anchor.window == nil) {
         return;
     }
+    [host_ take];
     [popover_ showRelativeToRect:anchor.bounds ofView:anchor preferredEdge:NSRectEdgeMinY];
+    // Where the item's window is not visible AppKit shows nothing, and tells of no closing.
+    if (!isShown()) {
+        [host_ giveBack];
+        return;
+    }
     // The application is active by now, but not its new window: without the keyboard a transient
     // popover of an accessory application does not notice a click elsewhere.
     [popover_.contentViewController.view.window makeKeyWindow];
@@ -71,6 +81,15 @@ void MacPopover::performClose() {
     // Asked of a popover that is not shown, it would beep.
     if (isShown()) {
         [popover_ performClose:nil];
+    }
+}
+
+void MacPopover::closed() {
+    [host_ giveBack];
+    // A copy: the handler may replace itself.
+    const auto handler = didClose_;
+    if (handler) {
+        handler();
     }
 }
 

@@ -3,8 +3,11 @@
 #pragma once
 
 #include "platform/Windows.h"
+#include "platform/macos/windows/MacContentHost.h"
 
 #import <AppKit/AppKit.h>
+
+@class ZephrineWindowDelegate;
 
 namespace zephrine {
 
@@ -22,6 +25,8 @@ public:
 
 private:
     NSWindow* window_;
+    ZephrineContentHost* host_;
+    ZephrineWindowDelegate* delegate_;  // the window holds it weakly
 };
 
 }  // namespace zephrine

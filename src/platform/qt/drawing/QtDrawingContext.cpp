@@ -13,6 +13,7 @@
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Fonts.h"
 #include "platform/qt/drawing/PlainText.h"
+#include "text/SingleLine.h"
 
 namespace zephrine {
 
@@ -154,7 +155,7 @@ void QtDrawingContext::drawText(std::string_view text, Point origin, const Font&
     painter_.setFont(drawn);
     painter_.setPen(resolve(color, appearance_));
     painter_.drawText(onDeviceRow(painter_, flipped(Point{origin.x, origin.y + descent})),
-                      singleLine(fromUTF8(text)));
+                      fromUTF8(singleLine(text)));
 }
 
 }  // namespace zephrine

@@ -6,12 +6,13 @@
 
 #include "platform/qt/drawing/Fonts.h"
 #include "platform/qt/drawing/PlainText.h"
+#include "text/SingleLine.h"
 
 namespace zephrine {
 
 Size QtTextMeasure::sizeOfText(std::string_view text, const Font& font) const {
     const QFontMetricsF metrics(makeFont(font));
-    return {metrics.horizontalAdvance(singleLine(fromUTF8(text))),
+    return {metrics.horizontalAdvance(fromUTF8(singleLine(text))),
             metrics.ascent() + metrics.descent()};
 }
 

@@ -3,12 +3,13 @@
 #include "platform/qt/statusitem/BusText.h"
 
 #include "platform/qt/drawing/PlainText.h"
+#include "text/SingleLine.h"
 
 namespace zephrine {
 
-QString withoutMarkup(QString text) {
-    text.removeIf([](QChar c) { return c == u'&' || c == u'<' || c == u'>'; });
-    return singleLine(text);
+QString withoutMarkup(std::string text) {
+    std::erase_if(text, [](char c) { return c == '&' || c == '<' || c == '>'; });
+    return fromUTF8(singleLine(text));
 }
 
 }  // namespace zephrine

@@ -4,10 +4,11 @@
 #pragma once
 
 #include <QString>
+#include <string>
 
 namespace zephrine {
 
 /// `text` on one line, without ampersands and angle brackets.
-[[nodiscard]] QString withoutMarkup(QString text);
+[[nodiscard]] QString withoutMarkup(std::string text);
 
 }  // namespace zephrine

@@ -63,7 +63,7 @@ void QtStatusItemButton::setToolTip(const std::string& text) {
         return;
     }
     toolTip_ = text;
-    const QString plain = withoutMarkup(fromUTF8(text));
+    const QString plain = withoutMarkup(text);
     item_.setToolTip(plain);
     menu_.setFigures(plain);
     const QString tip = shownLiterally(fromUTF8(text));
@@ -76,7 +76,7 @@ void QtStatusItemButton::setAccessibilityLabel(const std::string& text) {
         return;
     }
     label_ = text;
-    item_.setAccessibleText(withoutMarkup(fromUTF8(text)));
+    item_.setAccessibleText(withoutMarkup(text));
     strip_.setAccessibleName(fromUTF8(text));
     tray_.setAccessibilityLabel(fromUTF8(text));
 }

@@ -6,6 +6,7 @@
 
 #include "platform/qt/drawing/PlainText.h"
 #include "platform/qt/widgets/LabelWidget.h"
+#include "text/SingleLine.h"
 
 namespace zephrine {
 
@@ -15,7 +16,7 @@ QtLabel::QtLabel(const SystemAppearance& appearance)
 
 void QtLabel::setStringValue(const std::string& text) {
     if (std::exchange(text_, text) != text) {
-        label_.setText(singleLine(fromUTF8(text)));
+        label_.setText(fromUTF8(singleLine(text)));
     }
 }
 

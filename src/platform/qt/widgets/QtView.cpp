@@ -8,6 +8,7 @@
 
 #include "platform/Trap.h"
 #include "platform/qt/drawing/PlainText.h"
+#include "text/SingleLine.h"
 
 namespace zephrine {
 
@@ -77,7 +78,7 @@ void QtView::setAccessibilityValue(const std::string& value) {
 }
 
 void QtView::setToolTip(const std::string& text) {
-    const QString line = singleLine(fromUTF8(text));
+    const QString line = fromUTF8(singleLine(text));
     const QString shown = shownLiterally(line);
     if (shown != widget_->toolTip()) {
         widget_->setToolTip(shown);

@@ -13,20 +13,32 @@ ContentHost::~ContentHost() {
 }
 
 void ContentHost::setContent(View& view) {
-    QtView& content = qtView(view);
-    QWidget* const before = content.widget().parentWidget();
+    content_ = &view;
+    take();
+}
+
+void ContentHost::take() {
+    if (content_ == nullptr) {
+        return;
+    }
+    QWidget* const before = qtView(*content_).widget().parentWidget();
     if (before != this) {
-        empty();
         lender_ = dynamic_cast<ContentHost*>(before);
-        content.standIn(*this);
+        showContent();
     }
 }
 
-void ContentHost::giveBack(View& view) {
+void ContentHost::giveBack() {
     const QPointer<ContentHost> lender = std::exchange(lender_, nullptr);
-    if (lender != nullptr && qtView(view).widget().parentWidget() == this) {
-        lender->setContent(view);
+    if (lender != nullptr && lender->content_ == content_ &&
+        qtView(*content_).widget().parentWidget() == this) {
+        lender->showContent();
     }
+}
+
+void ContentHost::showContent() {
+    empty();
+    qtView(*content_).standIn(*this);
 }
 
 void ContentHost::empty() {

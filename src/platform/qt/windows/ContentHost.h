@@ -16,14 +16,18 @@ public:
     ContentHost(const ContentHost&) = delete;
     ContentHost& operator=(const ContentHost&) = delete;
 
-    /// Takes `view` in, out of wherever it stood before; what stood here leaves.
+    /// From now on the content is `view`: takes it in; what stood here leaves.
     void setContent(View& view);
-    /// Returns `view` to the host that this one has taken it from last.
-    void giveBack(View& view);
+    /// Takes the content in, if there is one, out of wherever it stands.
+    void take();
+    /// Returns the content to the host that this one has taken it from last.
+    void giveBack();
 
 private:
+    void showContent();
     void empty();
 
+    View* content_ = nullptr;
     QPointer<ContentHost> lender_;
 };
 

@@ -20,7 +20,6 @@ QtPopover::QtPopover(const SystemAppearance& appearance, RunLoop& runLoop, Click
                           .closedByItself = [this] { clickGuard_.noteAutomaticHide(); }}) {}
 
 void QtPopover::setContentView(View& view) {
-    content_ = &view;
     frame_.content().setContent(view);
 }
 
@@ -39,9 +38,7 @@ void QtPopover::showRelativeTo(StatusItemButton& button) {
     }
     const auto* anchor = dynamic_cast<const ItemAnchor*>(&button);
     const std::optional<QRect> item = anchor != nullptr ? anchor->anchorRect() : std::nullopt;
-    if (content_ != nullptr) {
-        frame_.content().setContent(*content_);
-    }
+    frame_.content().take();
     frame_.open(cornerBeside(item), item.has_value());
     if (anchor != nullptr) {
         following_ = QObject::connect(anchor, &ItemAnchor::anchorChanged, &frame_, [this, anchor] {
@@ -63,9 +60,7 @@ QPoint QtPopover::cornerBeside(const std::optional<QRect>& item) const {
 void QtPopover::closed() {
     QObject::disconnect(following_);
     watch_.reset();
-    if (content_ != nullptr) {
-        frame_.content().giveBack(*content_);
-    }
+    frame_.content().giveBack();
     if (didClose_) {
         const auto handler = didClose_;
         handler();

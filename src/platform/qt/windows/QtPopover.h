@@ -31,7 +31,6 @@ private:
 
     RunLoop& runLoop_;
     ClickGuard& clickGuard_;
-    View* content_ = nullptr;
     std::function<void()> didClose_;
     std::unique_ptr<Timer> watch_;
     PopoverFrame frame_;

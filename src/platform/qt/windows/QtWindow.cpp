@@ -3,12 +3,14 @@
 #include "platform/qt/windows/QtWindow.h"
 
 #include <QCursor>
+#include <QHideEvent>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
 
 #include "platform/qt/Accessibility.h"
 #include "platform/qt/drawing/PlainText.h"
+#include "platform/qt/windows/ContentHost.h"
 #include "platform/qt/windows/WorkArea.h"
 #include "platform/qt/windows/X11Windows.h"
 
@@ -21,19 +23,36 @@ constexpr auto flags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHin
 
 }  // namespace
 
+/// The window itself, however it comes to be hidden.
+class QtWindow::Surface final : public QWidget {
+public:
+    Surface() : QWidget(nullptr, flags), content(this) {}
+
+    ContentHost content;
+
+protected:
+    void hideEvent(QHideEvent* event) override {
+        QWidget::hideEvent(event);
+        if (!event->spontaneous()) {
+            content.giveBack();
+        }
+    }
+};
+
 QtWindow::QtWindow(const std::string& title, Size contentSize)
-    : surface_(std::make_unique<QWidget>(nullptr, flags)),
-      content_(*new ContentHost(surface_.get())) {  // its parent owns it
+    : surface_(std::make_unique<Surface>()) {
     const QSize size(static_cast<int>(std::lround(contentSize.width)),
                      static_cast<int>(std::lround(contentSize.height)));
     surface_->setWindowTitle(fromUTF8(title));
     setAccessibleRole(*surface_, QAccessible::Window);
     surface_->setFixedSize(size);
-    content_.resize(size);
+    surface_->content.resize(size);
 }
 
+QtWindow::~QtWindow() = default;
+
 void QtWindow::setContentView(View& view) {
-    content_.setContent(view);
+    surface_->content.setContent(view);
 }
 
 bool QtWindow::isVisible() const {
@@ -48,6 +67,7 @@ void QtWindow::center() {
 }
 
 void QtWindow::makeKeyAndOrderFront() {
+    surface_->content.take();
     if (!surface_->isVisible()) {
         surface_->winId();  // makes the window, so that its properties can be set before it shows
         keepOutOfTaskBar(*surface_->windowHandle());

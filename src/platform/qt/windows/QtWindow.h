@@ -6,13 +6,15 @@
 #include <string>
 
 #include "platform/Windows.h"
-#include "platform/qt/windows/ContentHost.h"
 
 namespace zephrine {
 
 class QtWindow final : public Window {
 public:
     QtWindow(const std::string& title, Size contentSize);
+    ~QtWindow() override;
+    QtWindow(const QtWindow&) = delete;
+    QtWindow& operator=(const QtWindow&) = delete;
 
     void setContentView(View& view) override;
     [[nodiscard]] bool isVisible() const override;
@@ -20,8 +22,9 @@ public:
     void makeKeyAndOrderFront() override;
 
 private:
-    std::unique_ptr<QWidget> surface_;
-    ContentHost& content_;
+    class Surface;
+
+    std::unique_ptr<Surface> surface_;
 };
 
 }  // namespace zephrine

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QEvent>
+#include <QLabel>
 
 #include "platform/qt/TestApplication.h"
 #include "platform/qt/drawing/Colors.h"
@@ -90,6 +91,11 @@ TEST_F(QtLabelTest, SetsATextThatIsALittleTooLongTighter) {
 TEST_F(QtLabelTest, ShowsMarkupAsItsCharacters) {
     label.setStringValue("<b></b>");
     EXPECT_GT(inked().second, 20);
+}
+
+TEST_F(QtLabelTest, ShowsALineBreakAsASpace) {
+    label.setStringValue("two\nlines");
+    EXPECT_EQ(static_cast<QLabel&>(label.widget()).text(), "two lines");
 }
 
 TEST_F(QtLabelTest, HasTheColourOfTheCurrentAppearance) {

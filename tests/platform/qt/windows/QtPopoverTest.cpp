@@ -117,15 +117,6 @@ TEST_F(QtPopoverTest, StaysOpenForAPressInside) {
     EXPECT_EQ(closed, 0);
 }
 
-TEST_F(QtPopoverTest, DoesNothingWhenItIsClosedTwice) {
-    popover.performClose();
-    EXPECT_EQ(closed, 0);
-    popover.showRelativeTo(button);
-    popover.performClose();
-    popover.performClose();
-    EXPECT_EQ(closed, 1);
-}
-
 TEST_F(QtPopoverTest, SwallowsTheClickOfAPressOutsideAndNoOther) {
     popover.showRelativeTo(button);
     popover.performClose();
