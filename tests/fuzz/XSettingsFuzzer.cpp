@@ -5,7 +5,7 @@
 #include <cstdint>
 
 #include "platform/Trap.h"
-#include "platform/qt/theme/XSettings.h"
+#include "platform/linux/desktop/XSettings.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
     const auto settings = zephrine::parseXSettings({data, size});

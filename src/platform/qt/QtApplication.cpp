@@ -10,7 +10,7 @@
 #include <clocale>
 #include <utility>
 
-#include "platform/qt/Accessibility.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/DesktopConnection.h"
 #include "platform/qt/drawing/AppIcon.h"
 #include "platform/qt/drawing/Fonts.h"

@@ -10,15 +10,15 @@
 
 #include "platform/Application.h"
 #include "platform/PreferenceStore.h"
-#include "platform/qt/ClickGuard.h"
+#include "platform/qt/windows/ClickGuard.h"
 #include "platform/qt/DesktopVocabulary.h"
 #include "platform/qt/LogindSignal.h"
-#include "platform/qt/QtBackgroundWorker.h"
+#include "platform/linux/base/LinuxBackgroundWorker.h"
 #include "platform/qt/QtRunLoop.h"
 #include "platform/qt/ResumeSignal.h"
 #include "platform/qt/SingleInstance.h"
-#include "platform/qt/SleepWatcher.h"
-#include "platform/qt/SystemAppearance.h"
+#include "platform/linux/time/SleepWatcher.h"
+#include "platform/qt/theme/SystemAppearance.h"
 #include "platform/qt/TerminationSignals.h"
 #include "platform/qt/drawing/QtTextMeasure.h"
 #include "platform/qt/statusitem/QtStatusBar.h"
@@ -87,7 +87,7 @@ private:
     QtWindowFactory windows_;
     QtStatusBar statusBar_;
     SingleInstance instance_;
-    QtBackgroundWorker worker_;  // last: its job is over before anything else goes away
+    LinuxBackgroundWorker worker_;  // last: its job is over before anything else goes away
     ApplicationDelegate* delegate_ = nullptr;
     bool terminated_ = false;
 };

@@ -10,7 +10,7 @@
 
 #include "platform/RunLoop.h"
 #include "platform/linux/base/FileDescriptor.h"
-#include "platform/qt/TimerQueue.h"
+#include "platform/linux/time/TimerQueue.h"
 
 namespace zephrine {
 

@@ -8,7 +8,7 @@
 
 #include "platform/qt/instance/Handover.h"
 #include "platform/qt/instance/InstanceBus.h"
-#include "platform/qt/instance/InstancePlace.h"
+#include "platform/linux/desktop/InstancePlace.h"
 #include "platform/qt/instance/InstanceSocket.h"
 
 namespace zephrine {

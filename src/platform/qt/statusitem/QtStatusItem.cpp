@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "platform/qt/statusitem/HostForm.h"
+#include "platform/qt/statusitem/host/HostForm.h"
 #include "platform/qt/x11/X11.h"
 
 namespace zephrine {

@@ -11,10 +11,10 @@
 #include <string>
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/HostWatcher.h"
+#include "platform/qt/statusitem/host/HostWatcher.h"
 #include "platform/qt/statusitem/ItemPlacement.h"
 #include "platform/qt/statusitem/QtStatusItemButton.h"
-#include "platform/qt/statusitem/SessionHostBus.h"
+#include "platform/qt/statusitem/host/SessionHostBus.h"
 
 namespace zephrine {
 

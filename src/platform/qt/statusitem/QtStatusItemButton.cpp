@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "platform/qt/drawing/PlainText.h"
-#include "platform/qt/statusitem/BusText.h"
+#include "platform/qt/statusitem/bus/BusText.h"
 #include "platform/qt/statusitem/forms/Forms.h"
 #include "platform/qt/x11/X11.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/Color.h"
-#include "platform/qt/theme/XSettings.h"
+#include "platform/linux/desktop/XSettings.h"
 
 namespace zephrine {
 

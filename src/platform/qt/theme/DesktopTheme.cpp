@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "platform/qt/theme/XSettings.h"
+#include "platform/linux/desktop/XSettings.h"
 #include "platform/qt/x11/X11.h"
 
 namespace zephrine {

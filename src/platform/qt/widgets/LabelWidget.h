@@ -6,7 +6,7 @@
 #include <QLabel>
 
 #include "platform/Widgets.h"
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 
 namespace zephrine {
 

@@ -3,7 +3,7 @@
 // of buttons allow for: one at x = 14 lines up with the texts at x = 20.
 #pragma once
 
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 #include "platform/qt/widgets/QtView.h"
 
 namespace zephrine {

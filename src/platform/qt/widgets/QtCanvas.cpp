@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <utility>
 
-#include "platform/qt/Accessibility.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/QtDrawingContext.h"
 
 namespace zephrine {

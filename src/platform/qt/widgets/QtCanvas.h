@@ -2,7 +2,7 @@
 // A view whose picture comes from a handler.
 #pragma once
 
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 #include "platform/qt/widgets/QtView.h"
 
 namespace zephrine {

@@ -2,7 +2,7 @@
 // A box to tick, with its title beside it.
 #pragma once
 
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 #include "platform/qt/widgets/QtView.h"
 
 namespace zephrine {

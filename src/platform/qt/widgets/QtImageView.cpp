@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <utility>
 
-#include "platform/qt/Accessibility.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/AppIcon.h"
 #include "platform/qt/drawing/PlainText.h"
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 #include "platform/qt/widgets/QtView.h"
 
 namespace zephrine {

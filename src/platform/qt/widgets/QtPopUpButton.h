@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 #include "platform/qt/widgets/QtView.h"
 
 namespace zephrine {

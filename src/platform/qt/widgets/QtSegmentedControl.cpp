@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/qt/Accessibility.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Fonts.h"
 #include "platform/qt/drawing/Palette.h"

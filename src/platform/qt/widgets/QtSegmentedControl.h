@@ -6,7 +6,7 @@
 #include <QRadioButton>
 #include <vector>
 
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 #include "platform/qt/widgets/QtView.h"
 
 namespace zephrine {

@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-#include "platform/qt/Accessibility.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/Palette.h"
 
 namespace zephrine {

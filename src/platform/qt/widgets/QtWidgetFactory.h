@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/Widgets.h"
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 
 namespace zephrine {
 

@@ -15,12 +15,12 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/qt/Accessibility.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Palette.h"
 #include "platform/qt/sway/SwayConnection.h"
 #include "platform/qt/sway/SwayPlacement.h"
-#include "platform/qt/windows/X11Windows.h"
+#include "platform/qt/x11/X11Windows.h"
 
 namespace zephrine {
 

@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "platform/qt/SystemAppearance.h"
+#include "platform/qt/theme/SystemAppearance.h"
 #include "platform/qt/windows/ContentHost.h"
 
 namespace zephrine {

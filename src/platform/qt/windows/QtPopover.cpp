@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/qt/statusitem/ItemAnchor.h"
+#include "platform/qt/windows/ItemAnchor.h"
 #include "platform/qt/windows/PopoverPlacement.h"
 #include "platform/qt/windows/WorkArea.h"
 

@@ -8,7 +8,7 @@
 
 #include "platform/RunLoop.h"
 #include "platform/Windows.h"
-#include "platform/qt/ClickGuard.h"
+#include "platform/qt/windows/ClickGuard.h"
 #include "platform/qt/windows/PopoverFrame.h"
 
 namespace zephrine {

@@ -8,11 +8,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/qt/Accessibility.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/PlainText.h"
 #include "platform/qt/windows/ContentHost.h"
 #include "platform/qt/windows/WorkArea.h"
-#include "platform/qt/windows/X11Windows.h"
+#include "platform/qt/x11/X11Windows.h"
 
 namespace zephrine {
 

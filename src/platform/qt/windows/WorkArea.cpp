@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/qt/windows/X11Windows.h"
+#include "platform/qt/x11/X11Windows.h"
 
 namespace zephrine {
 

@@ -6,7 +6,7 @@
 #include <QScreen>
 #include <vector>
 
-#include "platform/qt/windows/Strut.h"
+#include "platform/qt/x11/Strut.h"
 
 namespace zephrine {
 

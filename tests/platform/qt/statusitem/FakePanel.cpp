@@ -3,7 +3,7 @@
 
 #include <QDBusVariant>
 
-#include "platform/qt/statusitem/NotifierMenu.h"
+#include "platform/qt/statusitem/bus/NotifierMenu.h"
 
 namespace zephrine {
 

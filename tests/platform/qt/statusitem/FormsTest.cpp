@@ -9,7 +9,7 @@
 #include <QtEndian>
 
 #include "platform/qt/drawing/Colors.h"
-#include "platform/qt/statusitem/BusText.h"
+#include "platform/qt/statusitem/bus/BusText.h"
 #include "platform/qt/statusitem/SampleImage.h"
 
 namespace zephrine {

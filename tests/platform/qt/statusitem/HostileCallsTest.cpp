@@ -6,9 +6,9 @@
 #include <limits>
 
 #include "platform/qt/statusitem/FakePanel.h"
-#include "platform/qt/statusitem/MenuTypes.h"
-#include "platform/qt/statusitem/NotifierItem.h"
-#include "platform/qt/statusitem/NotifierMenu.h"
+#include "platform/qt/statusitem/bus/MenuTypes.h"
+#include "platform/qt/statusitem/bus/NotifierItem.h"
+#include "platform/qt/statusitem/bus/NotifierMenu.h"
 
 namespace zephrine {
 namespace {

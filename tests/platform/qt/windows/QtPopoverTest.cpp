@@ -9,7 +9,7 @@
 #include "fakes/FakeRunLoop.h"
 #include "fakes/FakeStatusBar.h"
 #include "platform/qt/TestApplication.h"
-#include "platform/qt/statusitem/ItemAnchor.h"
+#include "platform/qt/windows/ItemAnchor.h"
 #include "platform/qt/widgets/QtView.h"
 #include "platform/qt/windows/QtWindow.h"
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/HostForm.h"
-#include "platform/qt/statusitem/NotifierFace.h"
+#include "platform/qt/statusitem/host/HostForm.h"
+#include "platform/qt/statusitem/bus/NotifierFace.h"
 #include "platform/qt/statusitem/forms/FileForm.h"
 
 namespace zephrine {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/NotifierFace.h"
+#include "platform/qt/statusitem/bus/NotifierFace.h"
 
 namespace zephrine {
 

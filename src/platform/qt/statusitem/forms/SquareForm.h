@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/NotifierPixmap.h"
+#include "platform/qt/statusitem/bus/NotifierPixmap.h"
 
 namespace zephrine {
 

@@ -12,7 +12,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/qt/windows/X11Windows.h"
+#include "platform/qt/x11/X11Windows.h"
 #include "platform/qt/x11/X11.h"
 
 namespace zephrine {

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "platform/qt/drawing/RenderImage.h"
-#include "platform/qt/statusitem/PanelPixels.h"
+#include "platform/qt/statusitem/appearance/PanelPixels.h"
 #include "platform/qt/statusitem/tray/TrayLayout.h"
 #include "platform/qt/x11/X11.h"
 
