@@ -16,13 +16,17 @@
 
 namespace zephrine {
 
-/// The picture of the item. `wide` is the picture itself. Some panels force every item into a
-/// square: `square` renders the same figures for a square of `side` points. Others set text beside
-/// a small picture: `text` is what the picture says, on two lines.
+/// The picture of the item, drawn for a bar that looks like `appearance`. `wide` is the picture
+/// itself. Some panels force every item into a square: `square` makes a picture of the same figures
+/// for a square of `side` points. Others are no higher than one line of text: `line` makes a
+/// picture with both lines side by side. And some set text beside a small picture: `text` is what
+/// the picture says, on two lines.
 struct StatusItemImage {
     Image wide;
     std::function<Image(double side)> square = {};
+    std::function<Image()> line = {};
     std::string text = {};
+    Appearance appearance = Appearance::aqua;
 };
 
 /// The part of the item that is seen and clicked.
@@ -30,8 +34,9 @@ class StatusItemButton {
 public:
     virtual ~StatusItemButton() = default;
 
-    /// The better match of the two for the bar behind the item; absent when it cannot be told.
-    [[nodiscard]] virtual std::optional<Appearance> effectiveAppearance() const = 0;
+    /// The better match of the two for the bar behind the item; absent when it cannot be told. May
+    /// look at the bar first.
+    [[nodiscard]] virtual std::optional<Appearance> effectiveAppearance() = 0;
 
     virtual void setToolTip(const std::string& text) = 0;
     virtual void setAccessibilityLabel(const std::string& text) = 0;

@@ -30,4 +30,7 @@ std::string secondLine(const StatusContent& content);
 /// does not jitter as the figures change.
 Image statusImage(const StatusContent& content, const TextMeasure& measure);
 
+/// The same with both lines side by side, 12 points high, for bars of that height.
+Image lineImage(const StatusContent& content, const TextMeasure& measure);
+
 }  // namespace zephrine

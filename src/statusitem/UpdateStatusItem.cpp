@@ -24,7 +24,8 @@ void AppDelegate::updateStatusItem() {
     const std::string cpuValue = cpuText(latestCPU);
     const bool ramInGB = latestMemory.has_value() && defaults.boolForKey(preferences::ramInGBKey);
     const std::string ramValue = ramText(latestMemory, ramInGB);
-    const bool isDark = button->effectiveAppearance() == Appearance::darkAqua;
+    const Appearance appearance = button->effectiveAppearance().value_or(Appearance::aqua);
+    const bool isDark = appearance == Appearance::darkAqua;
     const std::string key = imageKey(cpuValue, ramValue, fontSize(), latestPressure, isDark);
     const std::string description = statusDescription(cpuValue, latestMemory, latestPressure);
 
@@ -48,7 +49,9 @@ void AppDelegate::updateStatusItem() {
     button->setImage(
         {.wide = std::move(wide),
          .square = [content, &measure](double side) { return squareImage(content, side, measure); },
-         .text = firstLine(content) + "\n" + secondLine(content)});
+         .line = [content, &measure] { return lineImage(content, measure); },
+         .text = firstLine(content) + "\n" + secondLine(content),
+         .appearance = appearance});
 }
 
 }  // namespace zephrine

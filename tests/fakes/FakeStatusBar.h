@@ -20,9 +20,7 @@ public:
     int labelsSet = 0;
     int imagesSet = 0;
 
-    [[nodiscard]] std::optional<Appearance> effectiveAppearance() const override {
-        return appearance;
-    }
+    [[nodiscard]] std::optional<Appearance> effectiveAppearance() override { return appearance; }
     void setToolTip(const std::string& text) override {
         toolTip = text;
         ++toolTipsSet;

@@ -76,5 +76,32 @@ TEST(StatusImage, DrawsFromItsOwnCopyAsOftenAsItIsAsked) {
     EXPECT_EQ(drawn(image).texts[0].text, "CPU  12%");
 }
 
+TEST(LineImage, SetsBothLinesSideBySideWithTheDotBehind) {
+    const Image image = lineImage(content(false), FakeTextMeasure());
+    // Eight characters of 0.61 x 9 points measure 43.92 points.
+    const double second = 1 + 44 + 9;
+    EXPECT_EQ(image.size, (Size{second - 1 + 55 + 13, 12}));
+    const auto context = drawn(image);
+    ASSERT_EQ(context.texts.size(), 2U);
+    EXPECT_EQ(context.texts[0].text, "CPU  12%");
+    EXPECT_EQ(context.texts[0].origin, (Point{1, 0}));
+    EXPECT_EQ(context.texts[1].text, "RAM  63%");
+    EXPECT_EQ(context.texts[1].origin, (Point{second, 0}));
+    ASSERT_EQ(context.ovals.size(), 1U);
+    EXPECT_EQ(context.ovals[0].rect, (Rect{image.size.width - 6, 4, 4, 4}));
+    EXPECT_EQ(context.ovals[0].color, Color::systemOrangeColor);
+}
+
+TEST(LineImage, HasTheFontAndColourOfTheWidePicture) {
+    for (const bool isDark : {false, true}) {
+        const auto wide = drawn(statusImage(content(isDark, 10), FakeTextMeasure())).texts;
+        const auto line = drawn(lineImage(content(isDark, 10), FakeTextMeasure())).texts;
+        for (std::size_t i = 0; i < wide.size(); ++i) {
+            EXPECT_EQ(line[i].font, wide[i].font);
+            EXPECT_EQ(line[i].color, wide[i].color);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace zephrine

@@ -35,6 +35,23 @@ TEST_F(UpdateStatusItemTest, GivesTheLinesOfThePictureAsTextToo) {
     EXPECT_EQ(button().image.text, firstLine() + "\n" + secondLine());
 }
 
+TEST_F(UpdateStatusItemTest, GivesAFormForBarsOfOneLineToo) {
+    launch();
+    RecordingContext context;
+    button().image.line().drawingHandler(context);
+    ASSERT_EQ(context.texts.size(), 2U);
+    EXPECT_EQ(context.texts[0].text, firstLine());
+    EXPECT_EQ(context.texts[1].text, secondLine());
+}
+
+TEST_F(UpdateStatusItemTest, SaysWhichAppearanceThePictureIsDrawnFor) {
+    launch();
+    EXPECT_EQ(button().image.appearance, Appearance::aqua);
+    button().appearance = Appearance::darkAqua;
+    controller->updateStatusItem();
+    EXPECT_EQ(button().image.appearance, Appearance::darkAqua);
+}
+
 TEST_F(UpdateStatusItemTest, DrawsOnceForUnchangedReadingsButDescribesEachTime) {
     launch();
     const auto measurements = application().measure.measurements;

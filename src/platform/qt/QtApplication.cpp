@@ -10,11 +10,11 @@
 #include <clocale>
 #include <utility>
 
-#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/DesktopConnection.h"
 #include "platform/qt/drawing/AppIcon.h"
 #include "platform/qt/drawing/Fonts.h"
 #include "platform/qt/drawing/Palette.h"
+#include "platform/qt/widgets/Accessibility.h"
 
 namespace zephrine {
 

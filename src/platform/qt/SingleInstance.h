@@ -6,9 +6,9 @@
 #include <QDBusConnection>
 #include <optional>
 
+#include "platform/linux/desktop/InstancePlace.h"
 #include "platform/qt/instance/Handover.h"
 #include "platform/qt/instance/InstanceBus.h"
-#include "platform/linux/desktop/InstancePlace.h"
 #include "platform/qt/instance/InstanceSocket.h"
 
 namespace zephrine {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 
 namespace zephrine {
 namespace {

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "contract/RunLoopContract.h"
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 
 namespace zephrine {
 namespace {

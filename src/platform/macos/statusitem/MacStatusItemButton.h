@@ -13,7 +13,7 @@ class MacStatusItemButton final : public StatusItemButton {
 public:
     explicit MacStatusItemButton(NSStatusBarButton* button);
 
-    [[nodiscard]] std::optional<Appearance> effectiveAppearance() const override;
+    [[nodiscard]] std::optional<Appearance> effectiveAppearance() override;
     void setToolTip(const std::string& text) override;
     void setAccessibilityLabel(const std::string& text) override;
     void setImage(StatusItemImage image) override;

@@ -13,7 +13,7 @@ MacStatusItemButton::MacStatusItemButton(NSStatusBarButton* button) : button_(bu
     button_.action = @selector(runHandler:);
 }
 
-std::optional<Appearance> MacStatusItemButton::effectiveAppearance() const {
+std::optional<Appearance> MacStatusItemButton::effectiveAppearance() {
     // The bar follows the wallpaper, not the applications, and has vibrant appearances of its own:
     // only a best match tells light from dark.
     NSAppearanceName match = [button_.effectiveAppearance

@@ -11,10 +11,10 @@
 #include <string>
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/host/HostWatcher.h"
-#include "platform/qt/statusitem/ItemPlacement.h"
 #include "platform/qt/statusitem/QtStatusItemButton.h"
+#include "platform/qt/statusitem/host/HostWatcher.h"
 #include "platform/qt/statusitem/host/SessionHostBus.h"
+#include "platform/qt/statusitem/placement/ItemPlacement.h"
 
 namespace zephrine {
 

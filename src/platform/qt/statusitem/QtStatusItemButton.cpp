@@ -33,29 +33,31 @@ std::optional<QRect> pointerRect() {
 QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
                                        const StatusItemServices& services)
     : services_(services),
-      item_(bus, [this] { panelClicked(); }),
-      menu_(bus, {.open = [this] { panelClicked(); },
-                  .settings = [this] { performLater(services_.openSettings); },
-                  .quit = [this] { performLater(services_.quit); }}),
+      item_(bus, [this] {
+    panelClicked(); }),
+      menu_(bus, {.open = [this] {
+    panelClicked(); },
+                  .settings = [this] {
+    performLater(services_.openSettings); },
+                  .quit = [this] {
+    performLater(services_.quit); }}),
       files_(pictureFolder()),
       strip_(services.preferences),
       probe_(isOnX11() ? x11Connection() : nullptr),
-      panelAppearance_(probe_, [] { return std::chrono::steady_clock::now(); }),
-      told_(services.systemAppearance.current()),
-      drawnFor_(told_) {
+      panelAppearance_(probe_, [] {
+    return std::chrono::steady_clock::now(); })) {
     connect(&strip_, &QPushButton::clicked, this, [this] { clicked(); });
     connect(&tray_, &TrayItem::clicked, this, [this] { clicked(); });
     connect(&tray_, &TrayItem::placeChanged, this, &ItemAnchor::anchorChanged);
     strip_.setAccessibleDescription("Zephrine");
 }
 
-std::optional<Appearance> QtStatusItemButton::effectiveAppearance() const {
+std::optional<Appearance> QtStatusItemButton::effectiveAppearance() {
     auto surface = panelAppearance_.current();
     if (!surface) {
         surface = tray_.surface();  // some trays stand in panels that cannot be found
     }
-    told_ = surface.value_or(services_.systemAppearance.current());
-    return told_;
+    return surface.value_or(services_.systemAppearance.current());
 }
 
 void QtStatusItemButton::setToolTip(const std::string& text) {
@@ -83,7 +85,6 @@ void QtStatusItemButton::setAccessibilityLabel(const std::string& text) {
 
 void QtStatusItemButton::setImage(StatusItemImage image) {
     image_ = std::move(image);
-    drawnFor_ = told_;
     show();
 }
 
@@ -141,13 +142,13 @@ void QtStatusItemButton::clicked() {
 
 void QtStatusItemButton::show() {
     if (surface_ == ItemSurface::panel && host_) {
-        item_.setFace(faceForHost(formOfHost(*host_), image_, drawnFor_, files_));
+        item_.setFace(faceForHost(formOfHost(*host_), image_, files_));
     } else if (surface_ != ItemSurface::panel) {
-        tray_.setPicture(image_, drawnFor_);
+        tray_.setPicture(image_);
     }
     const bool hasStrip = surface_ == ItemSurface::strip && image_.wide.drawingHandler;
     if (hasStrip) {
-        strip_.setPicture(image_.wide, drawnFor_);
+        strip_.setPicture(image_.wide, image_.appearance);
     }
     if (hasStrip != strip_.isShown()) {
         strip_.setShown(hasStrip);

@@ -10,17 +10,17 @@
 #include <string>
 
 #include "platform/StatusBar.h"
-#include "platform/qt/windows/ClickGuard.h"
-#include "platform/qt/theme/SystemAppearance.h"
-#include "platform/qt/statusitem/host/HostBus.h"
-#include "platform/qt/windows/ItemAnchor.h"
+#include "platform/qt/statusitem/appearance/PanelAppearance.h"
+#include "platform/qt/statusitem/appearance/X11PanelProbe.h"
 #include "platform/qt/statusitem/bus/NotifierItem.h"
 #include "platform/qt/statusitem/bus/NotifierMenu.h"
-#include "platform/qt/statusitem/appearance/PanelAppearance.h"
+#include "platform/qt/statusitem/forms/PictureFiles.h"
+#include "platform/qt/statusitem/host/HostBus.h"
 #include "platform/qt/statusitem/strip/StatusStrip.h"
-#include "platform/qt/statusitem/appearance/X11PanelProbe.h"
-#include "platform/qt/statusitem/forms/FileForm.h"
 #include "platform/qt/statusitem/tray/TrayItem.h"
+#include "platform/qt/theme/SystemAppearance.h"
+#include "platform/qt/windows/ClickGuard.h"
+#include "platform/qt/windows/ItemAnchor.h"
 
 namespace zephrine {
 
@@ -38,7 +38,7 @@ class QtStatusItemButton final : public ItemAnchor, public StatusItemButton {
 public:
     QtStatusItemButton(const QDBusConnection& bus, const StatusItemServices& services);
 
-    [[nodiscard]] std::optional<Appearance> effectiveAppearance() const override;
+    [[nodiscard]] std::optional<Appearance> effectiveAppearance() override;
     void setToolTip(const std::string& text) override;
     void setAccessibilityLabel(const std::string& text) override;
     void setImage(StatusItemImage image) override;
@@ -68,15 +68,12 @@ private:
     TrayItem tray_;
     StatusStrip strip_;
     X11PanelProbe probe_;
-    mutable PanelAppearance panelAppearance_;
+    PanelAppearance panelAppearance_;
 
     std::function<void()> action_;
     StatusItemImage image_;
     std::string toolTip_;
     std::string label_;
-    /// The appearance that the caller was told last, and drew the image for.
-    mutable Appearance told_;
-    Appearance drawnFor_;
     std::optional<HostProcess> host_;
     ItemSurface surface_ = ItemSurface::panel;
     bool clickIsQueued_ = false;

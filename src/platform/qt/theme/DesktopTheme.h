@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/qt/theme/DesktopLook.h"
+#include "platform/linux/desktop/DesktopLook.h"
 #include "platform/qt/x11/X11Client.h"
 
 namespace zephrine {

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "platform/Color.h"
-#include "platform/qt/theme/DesktopLook.h"
+#include "platform/linux/desktop/DesktopLook.h"
 
 namespace zephrine {
 

@@ -5,8 +5,8 @@
 #include <QPainter>
 #include <utility>
 
-#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/QtDrawingContext.h"
+#include "platform/qt/widgets/Accessibility.h"
 
 namespace zephrine {
 

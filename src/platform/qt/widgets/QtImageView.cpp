@@ -6,9 +6,9 @@
 #include <QPainter>
 #include <utility>
 
-#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/AppIcon.h"
 #include "platform/qt/drawing/PlainText.h"
+#include "platform/qt/widgets/Accessibility.h"
 
 namespace zephrine {
 

@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Fonts.h"
 #include "platform/qt/drawing/Palette.h"
 #include "platform/qt/drawing/PlainText.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/widgets/Painting.h"
 
 namespace zephrine {

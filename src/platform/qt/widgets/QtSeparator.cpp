@@ -4,8 +4,8 @@
 
 #include <QPainter>
 
-#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/Palette.h"
+#include "platform/qt/widgets/Accessibility.h"
 
 namespace zephrine {
 

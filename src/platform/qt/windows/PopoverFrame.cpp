@@ -15,11 +15,11 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Palette.h"
 #include "platform/qt/sway/SwayConnection.h"
-#include "platform/qt/sway/SwayPlacement.h"
+#include "platform/qt/widgets/Accessibility.h"
+#include "platform/qt/windows/SwayPlacement.h"
 #include "platform/qt/x11/X11Windows.h"
 
 namespace zephrine {

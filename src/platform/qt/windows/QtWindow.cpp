@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/drawing/PlainText.h"
+#include "platform/qt/widgets/Accessibility.h"
 #include "platform/qt/windows/ContentHost.h"
 #include "platform/qt/windows/WorkArea.h"
 #include "platform/qt/x11/X11Windows.h"

@@ -4,8 +4,8 @@
 
 #include "platform/RunLoop.h"
 #include "platform/Windows.h"
-#include "platform/qt/windows/ClickGuard.h"
 #include "platform/qt/theme/SystemAppearance.h"
+#include "platform/qt/windows/ClickGuard.h"
 
 namespace zephrine {
 

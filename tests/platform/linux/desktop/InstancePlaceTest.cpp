@@ -4,40 +4,49 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QByteArray>
-#include <QTemporaryDir>
+#include <array>
+#include <cstdlib>
+#include <optional>
 #include <string>
+
+#include "platform/linux/FakeTree.h"
 
 namespace zephrine {
 namespace {
 
-struct InstancePlaceTest : testing::Test {
+class InstancePlaceTest : public ::testing::Test {
+protected:
     InstancePlaceTest() {
-        qputenv("DISPLAY", ":5");
-        qputenv("WAYLAND_DISPLAY", "wayland-1");
-        qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+        ::setenv("DISPLAY", ":5", 1);
+        ::setenv("WAYLAND_DISPLAY", "wayland-1", 1);
+        ::setenv("XDG_RUNTIME_DIR", folder.root().c_str(), 1);
     }
     ~InstancePlaceTest() override {
-        restore("DISPLAY", display);
-        restore("WAYLAND_DISPLAY", waylandDisplay);
-        restore("XDG_RUNTIME_DIR", runtimeFolder);
+        for (const auto& [name, value] : before) {
+            value ? ::setenv(name, value->c_str(), 1) : ::unsetenv(name);
+        }
     }
-    Q_DISABLE_COPY_MOVE(InstancePlaceTest)
+    InstancePlaceTest(const InstancePlaceTest&) = delete;
+    InstancePlaceTest& operator=(const InstancePlaceTest&) = delete;
 
     static InstancePlace onDisplay(const char* name) {
-        qputenv("DISPLAY", name);
+        ::setenv("DISPLAY", name, 1);
         return InstancePlace::current("xcb");
     }
 
-    QTemporaryDir folder;  // private to the user, as made
+    testing::FakeTree folder;  // private to the user, as made
 
 private:
-    static void restore(const char* name, const QByteArray& value) {
-        value.isNull() ? qunsetenv(name) : qputenv(name, value);
+    struct Variable {
+        const char* name;
+        std::optional<std::string> value;
+    };
+    static Variable variable(const char* name) {
+        const char* const value = std::getenv(name);
+        return {name, value != nullptr ? std::optional<std::string>(value) : std::nullopt};
     }
-    const QByteArray display = qgetenv("DISPLAY");
-    const QByteArray waylandDisplay = qgetenv("WAYLAND_DISPLAY");
-    const QByteArray runtimeFolder = qgetenv("XDG_RUNTIME_DIR");
+    const std::array<Variable, 3> before{variable("DISPLAY"), variable("WAYLAND_DISPLAY"),
+                                         variable("XDG_RUNTIME_DIR")};
 };
 
 TEST_F(InstancePlaceTest, IsTheDisplayThatTheProgramConnectsTo) {
@@ -49,7 +58,7 @@ TEST_F(InstancePlaceTest, IsTheDisplayThatTheProgramConnectsTo) {
 TEST_F(InstancePlaceTest, GivesEachDisplayNamesOfItsOwn) {
     const InstancePlace place = onDisplay(":5");
     EXPECT_EQ(place.busName(), "org.zephrine.Zephrine.Display__3a5");
-    EXPECT_EQ(place.socketPath(), folder.path().toStdString() + "/zephrine/_3a5.socket");
+    EXPECT_EQ(place.socketPath(), folder.root() + "/zephrine/_3a5.socket");
     const InstancePlace other = onDisplay("127.0.0.1:5");
     EXPECT_EQ(other.busName(), "org.zephrine.Zephrine.Display_127_2e0_2e0_2e1_3a5");
     EXPECT_NE(other.socketPath(), place.socketPath());
@@ -66,7 +75,7 @@ TEST_F(InstancePlaceTest, HasNamesOfBoundedLengthForAnyDisplay) {
     const InstancePlace place = onDisplay((std::string(100'000, '/') + ":7").c_str());
     EXPECT_LE(place.busName().size(), 255U);
     EXPECT_EQ(place.busName().substr(place.busName().size() - 4), "_3a7");
-    EXPECT_LE(place.socketPath().size(), folder.path().toStdString().size() + 107);
+    EXPECT_LE(place.socketPath().size(), folder.root().size() + 107);
 }
 
 TEST_F(InstancePlaceTest, HasNoNamesWithoutADisplay) {
@@ -75,13 +84,13 @@ TEST_F(InstancePlaceTest, HasNoNamesWithoutADisplay) {
 }
 
 TEST_F(InstancePlaceTest, UsesOnlyARuntimeFolderThatIsClosedToOthers) {
-    const std::string path = folder.path().toStdString();
+    const std::string path = folder.root();
     EXPECT_EQ(InstancePlace::current("xcb").runtimeFolder, path);
     ::chmod(path.c_str(), S_IRWXU | S_IRWXG);
     EXPECT_EQ(InstancePlace::current("xcb").runtimeFolder, "");
     EXPECT_EQ(InstancePlace::current("xcb").socketPath(), "");
     for (const char* const wrong : {"", "relative", "/nonexistent", "/dev/null"}) {
-        qputenv("XDG_RUNTIME_DIR", wrong);
+        ::setenv("XDG_RUNTIME_DIR", wrong, 1);
         EXPECT_EQ(InstancePlace::current("xcb").runtimeFolder, "") << wrong;
     }
 }

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/qt/theme/DesktopLook.h"
+#include "platform/linux/desktop/DesktopLook.h"
 
 namespace zephrine {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 
 namespace zephrine {
 namespace {

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "platform/linux/base/UnixSocket.h"
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 
 namespace zephrine {
 namespace {

@@ -7,9 +7,9 @@
 #include <QDBusArgument>
 
 #include "fakes/FakeServices.h"
-#include "platform/qt/statusitem/FakePanel.h"
 #include "platform/qt/statusitem/QtStatusBar.h"
 #include "platform/qt/statusitem/SampleImage.h"
+#include "platform/qt/statusitem/bus/FakePanel.h"
 
 namespace zephrine {
 namespace {

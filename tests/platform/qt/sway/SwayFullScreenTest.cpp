@@ -8,7 +8,7 @@
 #include <atomic>
 #include <memory>
 
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 #include "platform/qt/sway/FakeSway.h"
 
 namespace zephrine {

@@ -7,7 +7,7 @@
 #include <QAccessibleActionInterface>
 
 #include "platform/qt/TestApplication.h"
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 #include "platform/qt/widgets/QtView.h"
 
 namespace zephrine {

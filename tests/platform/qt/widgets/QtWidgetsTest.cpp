@@ -13,7 +13,7 @@
 #include "contract/WidgetContract.h"
 #include "platform/qt/TestApplication.h"
 #include "platform/qt/drawing/Colors.h"
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 #include "platform/qt/widgets/QtView.h"
 
 namespace zephrine {

@@ -13,7 +13,7 @@
 #include "platform/qt/TestApplication.h"
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/Fonts.h"
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 #include "platform/qt/widgets/QtView.h"
 #include "platform/qt/widgets/ShownWidgets.h"
 #include "settings/SettingsTable.h"

@@ -9,8 +9,8 @@
 #include "fakes/FakeRunLoop.h"
 #include "fakes/FakeStatusBar.h"
 #include "platform/qt/TestApplication.h"
-#include "platform/qt/windows/ItemAnchor.h"
 #include "platform/qt/widgets/QtView.h"
+#include "platform/qt/windows/ItemAnchor.h"
 #include "platform/qt/windows/QtWindow.h"
 
 namespace zephrine {

@@ -9,9 +9,9 @@
 #include <cstring>
 #include <utility>
 
+#include "platform/linux/processes/ProcessFacts.h"
 #include "platform/qt/statusitem/appearance/DrawnPanel.h"
 #include "platform/qt/statusitem/appearance/PanelPixels.h"
-#include "platform/linux/processes/ProcessFacts.h"
 #include "platform/qt/x11/X11.h"
 
 namespace zephrine {

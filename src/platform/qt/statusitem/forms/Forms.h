@@ -3,14 +3,14 @@
 #pragma once
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/host/HostForm.h"
 #include "platform/qt/statusitem/bus/NotifierFace.h"
-#include "platform/qt/statusitem/forms/FileForm.h"
+#include "platform/qt/statusitem/forms/PictureFiles.h"
+#include "platform/qt/statusitem/host/HostForm.h"
 
 namespace zephrine {
 
-/// `files` is where a form that needs a file writes it.
+/// `files` is where a form that needs a file writes it. A form that `image` lacks has no picture.
 [[nodiscard]] NotifierFace faceForHost(HostForm form, const StatusItemImage& image,
-                                       Appearance appearance, PictureFiles& files);
+                                       PictureFiles& files);
 
 }  // namespace zephrine

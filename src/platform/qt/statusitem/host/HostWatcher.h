@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "platform/qt/statusitem/host/HostBus.h"
-#include "platform/qt/statusitem/ItemPlacement.h"
+#include "platform/qt/statusitem/placement/ItemPlacement.h"
 
 namespace zephrine {
 

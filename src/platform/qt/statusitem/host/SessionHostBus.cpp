@@ -9,8 +9,8 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/qt/statusitem/host/HostWatcher.h"
 #include "platform/linux/processes/ProcessFacts.h"
+#include "platform/qt/statusitem/host/HostWatcher.h"
 
 namespace zephrine {
 

@@ -14,11 +14,11 @@
 
 #include "platform/qt/drawing/Colors.h"
 #include "platform/qt/drawing/RenderImage.h"
-#include "platform/qt/x11/AllDesktops.h"
-#include "platform/qt/x11/BelowFullScreen.h"
 #include "platform/qt/statusitem/strip/StripPlace.h"
 #include "platform/qt/sway/SwayConnection.h"
 #include "platform/qt/windows/WorkArea.h"
+#include "platform/qt/x11/AllDesktops.h"
+#include "platform/qt/x11/BelowFullScreen.h"
 #include "platform/qt/x11/X11Windows.h"
 
 namespace zephrine {

@@ -12,8 +12,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/qt/x11/X11Windows.h"
 #include "platform/qt/x11/X11.h"
+#include "platform/qt/x11/X11Windows.h"
 
 namespace zephrine {
 
@@ -61,11 +61,10 @@ void TrayItem::setLength(double length) {
     }
 }
 
-void TrayItem::setPicture(const StatusItemImage& image, Appearance appearance) {
+void TrayItem::setPicture(const StatusItemImage& image) {
     image_ = image;
-    appearance_ = appearance;
     if (window_) {
-        window_->setPicture(image_, appearance_, density_);
+        window_->setPicture(image_, density_);
     }
 }
 
@@ -150,7 +149,7 @@ void TrayItem::dockWith(xcb_window_t manager) {
                              .clicked = [this] { pressed(); },
                              .hovered = [this](bool isOver) { hovered(isOver); }});
     window_->setLength(length_);
-    setPicture(image_, appearance_);
+    setPicture(image_);
     setState(TrayReport::State::asked);
 }
 
@@ -161,7 +160,7 @@ void TrayItem::placed() {
     if (const auto* screen = at ? QGuiApplication::screenAt(at->center()) : nullptr) {
         density_ = screen->devicePixelRatio();
     }
-    setPicture(image_, appearance_);
+    setPicture(image_);
     Q_EMIT placeChanged();
 }
 

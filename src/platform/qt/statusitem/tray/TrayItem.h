@@ -11,7 +11,7 @@
 #include <optional>
 
 #include "platform/StatusBar.h"
-#include "platform/qt/statusitem/ItemPlacement.h"
+#include "platform/qt/statusitem/placement/ItemPlacement.h"
 #include "platform/qt/statusitem/tray/SpokenTrayItem.h"
 #include "platform/qt/statusitem/tray/TrayHints.h"
 #include "platform/qt/statusitem/tray/TrayWindow.h"
@@ -32,7 +32,7 @@ public:
     [[nodiscard]] const TrayReport& report() const { return report_; }
     /// Points from the left end to the right end, where the tray leaves it the choice.
     void setLength(double length);
-    void setPicture(const StatusItemImage& image, Appearance appearance);
+    void setPicture(const StatusItemImage& image);
     /// Shown beside the item while the pointer rests on it.
     void setToolTip(const QString& text) { toolTip_ = text; }
     /// What a screen reader says of it.
@@ -70,7 +70,6 @@ private:
     QString toolTip_;
     double length_ = 0;
     StatusItemImage image_;
-    Appearance appearance_ = Appearance::aqua;
     TrayReport report_;
     SpokenTrayItem spoken_;  // asks the others where they are
 };

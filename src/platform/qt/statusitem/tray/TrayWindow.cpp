@@ -102,9 +102,8 @@ void TrayWindow::setLength(double length) {
     }
 }
 
-void TrayWindow::setPicture(const StatusItemImage& image, Appearance appearance, double density) {
+void TrayWindow::setPicture(const StatusItemImage& image, double density) {
     image_ = image;
-    appearance_ = appearance;
     density_ = density;
     askForSize();
     paint();
@@ -214,8 +213,8 @@ void TrayWindow::resized(QSize size) {
 
 QImage TrayWindow::picture() const {
     const TrayLayout layout = layOutInTray(size_, image_.wide.size, density_);
-    QImage part = layout.isWide   ? renderImage(image_.wide, layout.scale, appearance_)
-                  : image_.square ? renderImage(image_.square(layout.side), 1, appearance_)
+    QImage part = layout.isWide   ? renderImage(image_.wide, layout.scale, image_.appearance)
+                  : image_.square ? renderImage(image_.square(layout.side), 1, image_.appearance)
                                   : QImage();
     part.setDevicePixelRatio(1);
     QImage whole(size_, QImage::Format_ARGB32_Premultiplied);

@@ -33,7 +33,7 @@ public:
 
     /// Points from the left end to the right end, where the tray leaves it the choice.
     void setLength(double length);
-    void setPicture(const StatusItemImage& image, Appearance appearance, double density);
+    void setPicture(const StatusItemImage& image, double density);
     /// Events of other windows are ignored.
     void handle(const xcb_generic_event_t& event);
 
@@ -62,7 +62,6 @@ private:
     xcb_colormap_t colormap_ = XCB_NONE;
     double length_ = 0;
     StatusItemImage image_;
-    Appearance appearance_ = Appearance::aqua;
     double density_ = 1;
     QSize asked_;
     QSize size_{1, 1};

@@ -11,8 +11,8 @@
 
 #include "fakes/FakeServices.h"
 #include "platform/qt/drawing/Colors.h"
-#include "platform/qt/statusitem/PrivateBus.h"
 #include "platform/qt/statusitem/SampleImage.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 
 namespace zephrine {
 namespace {

@@ -9,8 +9,8 @@
 #include <QtEndian>
 
 #include "platform/qt/drawing/Colors.h"
-#include "platform/qt/statusitem/bus/BusText.h"
 #include "platform/qt/statusitem/SampleImage.h"
+#include "platform/qt/statusitem/bus/BusText.h"
 
 namespace zephrine {
 namespace {
@@ -24,16 +24,22 @@ std::vector<int> widths(const NotifierPixmaps& pixmaps) {
     return result;
 }
 
+StatusItemImage dark() {
+    StatusItemImage image = sampleImage();
+    image.appearance = Appearance::darkAqua;
+    return image;
+}
+
 struct Forms : testing::Test {
     QTemporaryDir runtime;
     QString folder = runtime.path() + "/pictures";
     PictureFiles files{folder};
 
-    NotifierFace face(HostForm form, const StatusItemImage& image, Appearance appearance) {
-        return faceForHost(form, image, appearance, files);
+    NotifierFace face(HostForm form, const StatusItemImage& image) {
+        return faceForHost(form, image, files);
     }
-    NotifierPixmaps pixmaps(HostForm form, const StatusItemImage& image, Appearance appearance) {
-        const NotifierFace made = face(form, image, appearance);
+    NotifierPixmaps pixmaps(HostForm form, const StatusItemImage& image) {
+        const NotifierFace made = face(form, image);
         EXPECT_EQ(made.iconName, QString());
         EXPECT_EQ(made.label, QString());
         return made.pixmaps;
@@ -41,21 +47,9 @@ struct Forms : testing::Test {
 };
 
 TEST_F(Forms, GiveAWidePictureLargeEnoughToBeScaledDown) {
-    const auto doubled = pixmaps(HostForm::wideDoubled, sampleImage(), Appearance::aqua);
+    const auto doubled = pixmaps(HostForm::wideDoubled, sampleImage());
     EXPECT_EQ(widths(doubled), std::vector{136});
     EXPECT_EQ(doubled[0].height, 48);
-}
-
-/// As the real picture has them: a line of text above another, with a dot behind.
-StatusItemImage twoLines() {
-    return {{{68, 24}, [](DrawingContext& context) {
-                 context.setFill(Color::systemGreenColor);
-                 context.fillRect({1, 14, 40, 8});
-                 context.setFill(Color::systemRedColor);
-                 context.fillRect({1, 2, 30, 8});
-                 context.fillOval({62, 4, 4, 4});
-                 return true;
-             }}};
 }
 
 QImage pictureOf(const NotifierPixmap& pixmap) {
@@ -67,34 +61,16 @@ QImage pictureOf(const NotifierPixmap& pixmap) {
     return picture;
 }
 
-TEST_F(Forms, GiveBothLinesSideBySideWherePicturesAreAsHighAsOneLine) {
-    const auto given = pixmaps(HostForm::line, twoLines(), Appearance::aqua);
-    ASSERT_EQ(given.size(), 1);
-    const QImage line = pictureOf(given[0]);
-    EXPECT_EQ(line.height(), 48);
-    EXPECT_EQ(line.width(), (41 + 9 + 68) * 4) << "without the room behind the first line";
-    const auto colorAt = [&](int x, int y) { return line.pixelColor(4 * x, 4 * y); };
-    EXPECT_EQ(colorAt(20, 6), resolve(Color::systemGreenColor, Appearance::aqua));
-    EXPECT_EQ(colorAt(44, 6).alpha(), 0);
-    EXPECT_EQ(colorAt(50 + 20, 6), resolve(Color::systemRedColor, Appearance::aqua));
-    EXPECT_EQ(colorAt(50 + 64, 6), resolve(Color::systemRedColor, Appearance::aqua)) << "the dot";
-}
-
-TEST_F(Forms, GiveNoLineOfAPictureThatDoesNotDraw) {
-    EXPECT_EQ(pixmaps(HostForm::line, {}, Appearance::aqua), NotifierPixmaps());
-}
-
-TEST_F(Forms, GiveOneLineWhenNothingIsDrawnOnTheFirst) {
-    StatusItemImage image = twoLines();
-    image.wide.drawingHandler = [](DrawingContext& context) {
-        context.fillRect({1, 2, 30, 8});
-        return true;
-    };
-    EXPECT_EQ(widths(pixmaps(HostForm::line, image, Appearance::aqua)), std::vector{4 * 68});
+TEST_F(Forms, GiveTheOneLineLargeEnoughToBeScaledDown) {
+    StatusItemImage image;
+    image.line = [] { return sampleRectangle({120, 12}, Color::systemGreenColor); };
+    const auto given = pixmaps(HostForm::line, image);
+    EXPECT_EQ(widths(given), std::vector{480});
+    EXPECT_EQ(given[0].height, 48);
 }
 
 TEST_F(Forms, GiveSquaresFromSmallToLarge) {
-    const auto given = pixmaps(HostForm::squares, sampleImage(), Appearance::aqua);
+    const auto given = pixmaps(HostForm::squares, sampleImage());
     EXPECT_EQ(widths(given), (std::vector{16, 22, 24, 28, 32, 33, 44, 48, 64}));
     for (const NotifierPixmap& pixmap : given) {
         EXPECT_EQ(pixmap.width, pixmap.height);
@@ -110,8 +86,8 @@ TEST_F(Forms, MultiplyTheColorsOfSquaresByTheirOpacityWhereThePanelDoesNot) {
                          return true;
                      }};
     };
-    const auto plain = pixmaps(HostForm::squares, image, Appearance::aqua);
-    const auto multiplied = pixmaps(HostForm::multipliedSquares, image, Appearance::aqua);
+    const auto plain = pixmaps(HostForm::squares, image);
+    const auto multiplied = pixmaps(HostForm::multipliedSquares, image);
     ASSERT_EQ(widths(multiplied), widths(plain));
     EXPECT_NE(multiplied, plain) << "the oval's edge is not quite opaque";
     for (qsizetype i = 0; i < plain.size(); ++i) {
@@ -124,21 +100,21 @@ TEST_F(Forms, MultiplyTheColorsOfSquaresByTheirOpacityWhereThePanelDoesNot) {
 }
 
 TEST_F(Forms, GiveAnUnknownPanelSquaresAndThenAWidePicture) {
-    const auto given = pixmaps(HostForm::mixed, sampleImage(), Appearance::aqua);
+    const auto given = pixmaps(HostForm::mixed, sampleImage());
     EXPECT_EQ(widths(given), (std::vector{16, 22, 24, 28, 32, 33, 44, 48, 64, 136}));
 }
 
 TEST_F(Forms, GiveALabelBesideASmallSquare) {
     StatusItemImage image = sampleImage();
     image.text = "CPU   5%\nRAM  45%";
-    const NotifierFace given = face(HostForm::labelled, image, Appearance::aqua);
+    const NotifierFace given = face(HostForm::labelled, image);
     EXPECT_EQ(given.label, "CPU   5%  RAM  45%") << "on one line";
     EXPECT_EQ(given.iconName, QString());
     EXPECT_EQ(widths(given.pixmaps), std::vector{16});
 }
 
 TEST_F(Forms, GiveThePathOfAWideFileAndNoPixels) {
-    const NotifierFace given = face(HostForm::wideFile, sampleImage(), Appearance::aqua);
+    const NotifierFace given = face(HostForm::wideFile, sampleImage());
     EXPECT_EQ(given.pixmaps, NotifierPixmaps());
     const QImage picture(given.iconName);
     EXPECT_EQ(picture.size(), QSize(68, 24));
@@ -146,9 +122,9 @@ TEST_F(Forms, GiveThePathOfAWideFileAndNoPixels) {
 }
 
 TEST_F(Forms, WriteEachPictureUnderAnotherNameThanTheLast) {
-    const QString first = face(HostForm::wideFile, sampleImage(), Appearance::aqua).iconName;
-    const QString second = face(HostForm::wideFile, sampleImage(), Appearance::darkAqua).iconName;
-    const QString third = face(HostForm::wideFile, sampleImage(), Appearance::aqua).iconName;
+    const QString first = face(HostForm::wideFile, sampleImage()).iconName;
+    const QString second = face(HostForm::wideFile, dark()).iconName;
+    const QString third = face(HostForm::wideFile, sampleImage()).iconName;
     EXPECT_NE(first, second);
     EXPECT_EQ(first, third);
     EXPECT_EQ(QDir(folder).entryList(QDir::Files).size(), 2);
@@ -168,25 +144,26 @@ TEST_F(Forms, FallBackToALabelWhereNoFileCanBeWritten) {
     StatusItemImage image = sampleImage();
     image.text = "text";
     for (PictureFiles* place : {&nowhere, &forbidden}) {
-        const auto given = faceForHost(HostForm::wideFile, image, Appearance::aqua, *place);
+        const auto given = faceForHost(HostForm::wideFile, image, *place);
         EXPECT_EQ(given.label, "text");
         EXPECT_EQ(given.iconName, QString());
     }
 }
 
 TEST_F(Forms, LeaveOutWhatCannotBeDrawn) {
-    EXPECT_TRUE(pixmaps(HostForm::mixed, {}, Appearance::aqua).isEmpty());
+    EXPECT_TRUE(pixmaps(HostForm::mixed, {}).isEmpty());
+    EXPECT_TRUE(pixmaps(HostForm::line, {}).isEmpty());
     StatusItemImage broken = sampleImage();
     broken.wide.drawingHandler = [](DrawingContext&) { return false; };
-    EXPECT_TRUE(pixmaps(HostForm::wideDoubled, broken, Appearance::aqua).isEmpty());
+    EXPECT_TRUE(pixmaps(HostForm::wideDoubled, broken).isEmpty());
 }
 
 TEST_F(Forms, DrawInTheColoursOfThePanel) {
-    const auto light = pixmaps(HostForm::wideDoubled, sampleImage(), Appearance::aqua);
-    const auto dark = pixmaps(HostForm::wideDoubled, sampleImage(), Appearance::darkAqua);
+    const auto light = pixmaps(HostForm::wideDoubled, sampleImage());
+    const auto onDark = pixmaps(HostForm::wideDoubled, dark());
     ASSERT_NE(resolve(Color::systemGreenColor, Appearance::aqua),
               resolve(Color::systemGreenColor, Appearance::darkAqua));
-    EXPECT_NE(light, dark);
+    EXPECT_NE(light, onDark);
 }
 
 TEST(NotifierPixmap, IsInNetworkByteOrderAndNotPremultiplied) {

@@ -5,7 +5,7 @@
 #include <QDBusMetaType>
 #include <limits>
 
-#include "platform/qt/statusitem/FakePanel.h"
+#include "platform/qt/statusitem/bus/FakePanel.h"
 #include "platform/qt/statusitem/bus/MenuTypes.h"
 #include "platform/qt/statusitem/bus/NotifierItem.h"
 #include "platform/qt/statusitem/bus/NotifierMenu.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Writing and cleaning up.
-#include "platform/qt/statusitem/forms/FileForm.h"
+#include "platform/qt/statusitem/forms/PictureFiles.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -10,7 +10,7 @@
 #include <QStringList>
 #include <QVariant>
 
-#include "platform/qt/statusitem/PrivateBus.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 
 namespace zephrine {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/statusitem/FakePanel.h"
+#include "platform/qt/statusitem/bus/FakePanel.h"
 
 #include <QDBusVariant>
 

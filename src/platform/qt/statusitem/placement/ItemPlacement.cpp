@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/statusitem/ItemPlacement.h"
+#include "platform/qt/statusitem/placement/ItemPlacement.h"
 
 #include <algorithm>
 

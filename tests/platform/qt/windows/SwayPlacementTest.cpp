@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The dialogue with sway.
-#include "platform/qt/sway/SwayPlacement.h"
+#include "platform/qt/windows/SwayPlacement.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Themes do not tell whether they are dark, but those that are have it in their names.
-#include "platform/qt/theme/DesktopLook.h"
+#include "platform/linux/desktop/DesktopLook.h"
 
 #include <algorithm>
 #include <array>

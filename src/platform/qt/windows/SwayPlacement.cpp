@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // In two steps: sway knows where the pointer is, but does not tell, and does not mind its bars.
-#include "platform/qt/sway/SwayPlacement.h"
+#include "platform/qt/windows/SwayPlacement.h"
 
 #include <QByteArray>
 #include <optional>

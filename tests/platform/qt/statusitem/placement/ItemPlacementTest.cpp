@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Each test is a story in steps: what is reported at which moment, and the decision that follows.
-#include "platform/qt/statusitem/ItemPlacement.h"
+#include "platform/qt/statusitem/placement/ItemPlacement.h"
 
 #include <gtest/gtest.h>
 
