@@ -33,19 +33,14 @@ std::optional<QRect> pointerRect() {
 QtStatusItemButton::QtStatusItemButton(const QDBusConnection& bus,
                                        const StatusItemServices& services)
     : services_(services),
-      item_(bus, [this] {
-    panelClicked(); }),
-      menu_(bus, {.open = [this] {
-    panelClicked(); },
-                  .settings = [this] {
-    performLater(services_.openSettings); },
-                  .quit = [this] {
-    performLater(services_.quit); }}),
+      item_(bus, [this] { panelClicked(); }),
+      menu_(bus, {.open = [this] { panelClicked(); },
+                  .settings = [this] { performLater(services_.openSettings); },
+                  .quit = [this] { performLater(services_.quit); }}),
       files_(pictureFolder()),
       strip_(services.preferences),
       probe_(isOnX11() ? x11Connection() : nullptr),
-      panelAppearance_(probe_, [] {
-    return std::chrono::steady_clock::now(); })) {
+      panelAppearance_(probe_, [] { return std::chrono::steady_clock::now(); }) {
     connect(&strip_, &QPushButton::clicked, this, [this] { clicked(); });
     connect(&tray_, &TrayItem::clicked, this, [this] { clicked(); });
     connect(&tray_, &TrayItem::placeChanged, this, &ItemAnchor::anchorChanged);
