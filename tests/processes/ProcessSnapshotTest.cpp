@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <iostream>
+
 #include "fakes/FakeProcessTable.h"
 
 namespace zephrine {
@@ -32,6 +34,11 @@ std::optional<double> share(const ProcessReading& old, const ProcessReading& cur
 
 TEST(ProcessUsage, IsTheShareOfAllCores) {
     EXPECT_EQ(share(reading(24000000, 240000000), reading(48000000, 264000000), 10), 10.0);
+}
+
+TEST(ProcessUsage, DividesByTheTimeThenByTheCoresAndMultipliesLast) {
+    // Every other order of these operations gives 1.1111111111111112.
+    EXPECT_EQ(share(reading(0, 0), reading(1, 9), 10), 1.111111111111111);
 }
 
 TEST(ProcessUsage, CarriesPidNameAndMemoryOfTheCurrentReading) {
@@ -106,7 +113,9 @@ TEST(ProcessCapture, LooksAtTheClockRightAfterTheUsage) {
     FakeProcessTable table;
     table.processes[7];
     ProcessSnapshot::capture(table);
-    EXPECT_THAT(table.calls, ElementsAre("count", "list", "usage", "clock", "name"));
+    EXPECT_THAT(table.calls.all(),
+                ElementsAre("proc_listallpids", "proc_listallpids", "proc_pid_rusage",
+                            "mach_absolute_time", "proc_name"));
 }
 
 TEST(ProcessCapture, AddsUserAndSystemTimeWithWrapAround) {
@@ -128,8 +137,28 @@ TEST(ProcessCapture, LeavesRoomForProcessesThatStartMeanwhile) {
 TEST(ProcessCaptureDeathTest, StopsBeforeAListThatNoMachineHas) {
     FakeProcessTable table;
     table.reportedCount = (1 << 29) - 128;
-    EXPECT_DEATH(ProcessSnapshot::capture(table), "");
-    EXPECT_EQ(table.bufferSize, 0U);
+    const auto echoing = [&table] {
+        table.calls.echoTo(std::cerr);
+        ProcessSnapshot::capture(table);
+    };
+    EXPECT_DEATH(echoing(), "^proc_listallpids\n$") << "the list itself is not asked for";
+}
+
+TEST(ProcessCapture, IsEmptyWhenTheListCannotBeRead) {
+    FakeProcessTable table;
+    table.processes[7];
+    table.reportedWritten = -1;
+    EXPECT_TRUE(ProcessSnapshot::capture(table).processes.empty());
+}
+
+TEST(ProcessCapture, ReadsNoMorePidsThanWereWrittenNorThanFit) {
+    FakeProcessTable table;
+    table.processes[7];
+    table.processes[8];
+    table.reportedWritten = 1;
+    EXPECT_EQ(ProcessSnapshot::capture(table).processes.size(), 1U);
+    table.reportedWritten = 1000000;
+    EXPECT_EQ(ProcessSnapshot::capture(table).processes.size(), 2U);
 }
 
 TEST(ProcessCapture, SkipsPidsBelowOneAndUnreadableProcesses) {

@@ -55,6 +55,14 @@ TEST(History, MeasuresAgeFromTheSampleAppendedLast) {
     EXPECT_EQ(history.samples[2].time, 801.0);
 }
 
+TEST(History, DropsByAgeBeforeItDropsByCount) {
+    History history;
+    history.samples.assign(601, at(1000));
+    history.samples[300] = at(699);
+    history.append(at(1000));
+    EXPECT_EQ(history.samples, std::vector<HistorySample>(601, at(1000)));
+}
+
 TEST(History, StoresAbsentValuesAsAbsent) {
     History history;
     history.append({.time = 1, .cpu = {}, .ram = {}, .gpu = {}});
