@@ -37,11 +37,13 @@ std::string memoryValue(const ProcessUsage& row, const Formatting& formatting) {
 }  // namespace
 
 void Dashboard::updateProcesses(std::vector<ProcessUsage> rows) {
+    mainThread_.requireCurrent();
     processRows = std::move(rows);
     sortProcesses();
 }
 
 void Dashboard::sortProcesses() {
+    mainThread_.requireCurrent();
     require(processSort != nullptr && processNames.size() >= processRowCount &&
             processValues.size() >= processRowCount);
     const bool byMemory = processSort->selectedSegment() == memorySegment;

@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "platform/MainThread.h"
+
 namespace zephrine {
 
 namespace {
@@ -28,7 +30,9 @@ Image statusImage(const StatusContent& content, const TextMeasure& measure) {
     const double textWidth = measure.sizeOfText(widthSample, font).width;
     const double width = std::ceil(textWidth) + widthBesideText;
 
-    return {.size = {width, imageHeight}, .drawingHandler = [content, font, width](auto& context) {
+    return {.size = {width, imageHeight},
+            .drawingHandler = [content, font, width, mainThread = MainThread()](auto& context) {
+                mainThread.requireCurrent();
                 const Color text = content.isDark ? Color::white : Color::black;
                 context.drawText(firstLine(content), {1, 12}, font, text);
                 context.drawText(secondLine(content), {1, 0}, font, text);
