@@ -37,7 +37,6 @@ std::string memoryValue(const ProcessUsage& row, const Formatting& formatting) {
 }  // namespace
 
 void Dashboard::updateProcesses(std::vector<ProcessUsage> rows) {
-    mainThread_.requireCurrent();
     processRows = std::move(rows);
     sortProcesses();
 }
