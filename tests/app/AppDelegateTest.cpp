@@ -112,15 +112,18 @@ TEST_F(AppDelegateTest, WakingUpFindsTheGPUsAgainBeforeItReadsThem) {
     application().didWake();
     EXPECT_TRUE(calls().inOrder(
         {"IOObjectRelease", "IOServiceGetMatchingServices", "IORegistryEntryCreateCFProperty"}));
+    EXPECT_FALSE(calls().has("scheduleTimer"));
 }
 
 TEST_F(AppDelegateTest, EveryChangeOfAppearanceDrawsTheItemAgain) {
     launch();
     EXPECT_EQ(button().imagesSet, 1);
+    calls().clear();
     application().themeChanged();
     EXPECT_EQ(button().imagesSet, 2);
     application().themeChanged();
     EXPECT_EQ(button().imagesSet, 3);
+    EXPECT_FALSE(calls().has("host_statistics")) << "nothing new is measured";
 }
 
 TEST_F(AppDelegateTest, DoesNotTouchTheDashboardWhileItIsHidden) {

@@ -10,6 +10,20 @@ namespace {
 using LaunchTest = ControllerTest;
 using LaunchDeathTest = ControllerTest;
 
+TEST_F(LaunchTest, IsPrecededByNothingButTheControllersFirstState) {
+    prepare();
+    EXPECT_EQ(controller->statusItem, nullptr);
+    EXPECT_EQ(controller->timer, nullptr);
+    EXPECT_EQ(controller->settingsWindow, nullptr);
+    EXPECT_EQ(controller->inspectionWindow, nullptr);
+    EXPECT_EQ(controller->lastImageKey, "");
+    EXPECT_EQ(controller->latestCPU, std::nullopt);
+    EXPECT_EQ(controller->latestMemory, std::nullopt);
+    EXPECT_EQ(controller->latestGPU, std::nullopt);
+    EXPECT_EQ(controller->latestPressure, MemoryPressure::unknown);
+    EXPECT_TRUE(controller->history.samples.empty());
+}
+
 TEST_F(LaunchTest, PutsAnItemIntoTheStatusBar) {
     launch();
     EXPECT_EQ(application().bar.lengths.front(), 74.0);
@@ -45,8 +59,8 @@ TEST_F(LaunchTest, RefreshesOnceWithoutACPUReading) {
 TEST_F(LaunchTest, GoesFromTheItemOverTheObserversToTheTimerAndTheFirstRefresh) {
     launch();
     EXPECT_TRUE(
-        calls().inOrder({"statusItemWithLength", "setAutosaveName", "setAction", "setContentView",
-                         "setContentSize", "setDidCloseHandler", "observeDidWake",
+        calls().inOrder({"statusItemWithLength", "setAutosaveName", "setAction", "make segments",
+                         "setContentView", "setContentSize", "setDidCloseHandler", "observeDidWake",
                          "observeThemeChanged", "scheduleTimer", "host_statistics"}));
 }
 

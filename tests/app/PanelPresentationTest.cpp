@@ -86,6 +86,13 @@ TEST_F(PanelPresentationTest, AnotherStartsOptionsDoWhatTheyDoAtLaunch) {
     EXPECT_TRUE(inspectionWindow().visible);
 }
 
+TEST_F(PanelPresentationTest, AnotherStartsOptionThatIsNoneDoesNothing) {
+    launch();
+    calls().clear();
+    controller->performLaunchOption("--unknown");
+    EXPECT_TRUE(calls().all().empty());
+}
+
 TEST_F(PanelPresentationTest, InspectingAgainReplacesTheInspectionWindow) {
     launch({"--inspect"});
     controller->performLaunchOption("--inspect");

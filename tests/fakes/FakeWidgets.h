@@ -191,6 +191,7 @@ private:
     std::unique_ptr<Fake> make(Arguments... arguments) {
         auto made = std::make_unique<Fake>(std::move(arguments)...);
         made->calls = calls;
+        calls.note("make " + made->kind);
         return made;
     }
 };

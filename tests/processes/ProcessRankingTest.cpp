@@ -45,9 +45,10 @@ TEST_F(ProcessRankingTest, AnEmptyDeliverySaysSo) {
 }
 
 TEST_F(ProcessRankingTest, RanksByCPUShareWithTheHighestFirst) {
-    dashboard.updateProcesses({{1, "a", 1.0, 0}, {2, "b", 99.96, 0}, {3, "c", 12.34, 0}});
-    EXPECT_THAT(names(), ElementsAre("b", "c", "a", "", ""));
-    EXPECT_THAT(values(), ElementsAre("100.0%", "12.3%", "1.0%", "", ""));
+    dashboard.updateProcesses(
+        {{1, "a", 1.0, 0}, {2, "b", 99.96, 0}, {3, "c", 12.34, 0}, {4, "d", 100.0, 0}});
+    EXPECT_THAT(names(), ElementsAre("d", "b", "c", "a", ""));
+    EXPECT_THAT(values(), ElementsAre("100.0%", "100.0%", "12.3%", "1.0%", ""));
 }
 
 TEST_F(ProcessRankingTest, ShowsNoMoreThanFive) {

@@ -54,6 +54,14 @@ TEST_F(ProcessRefreshTest, OpeningStartsACaptureAtOnceAndATwoSecondTimer) {
     EXPECT_EQ(loop().timers.back().tolerance, 0.0);
 }
 
+TEST_F(ProcessRefreshTest, StartingAgainRefreshesBeforeItReplacesTheTimer) {
+    launch({"--show-dashboard"});
+    finishCapture();
+    calls().clear();
+    controller->openInspectionWindow();
+    EXPECT_TRUE(calls().inOrder({"perform", "invalidate", "scheduleTimer"}));
+}
+
 TEST_F(ProcessRefreshTest, TheFirstListHasNoSharesAndTheNextOneHas) {
     launch({"--show-dashboard"});
     EXPECT_EQ(firstName(), "Measuring…");

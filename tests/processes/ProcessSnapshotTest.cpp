@@ -70,6 +70,10 @@ TEST(ProcessUsage, IsAbsentWithoutCores) {
     EXPECT_EQ(share(reading(5, 10), reading(6, 20), -1), std::nullopt);
 }
 
+TEST(ProcessUsage, OfASingleCoreIsTheShareOfThatCore) {
+    EXPECT_EQ(share(reading(5, 10), reading(10, 20), 1), 50.0);
+}
+
 TEST(ProcessUsage, IsCappedAtTheWholeMachine) {
     EXPECT_EQ(share(reading(0, 0), reading(1000, 10), 4), 100.0);
 }
@@ -153,8 +157,10 @@ TEST(ProcessCapture, IsEmptyWhenTheListCannotBeRead) {
 
 TEST(ProcessCapture, ReadsNoMorePidsThanWereWrittenNorThanFit) {
     FakeProcessTable table;
+    table.processes[1];  // what a slot that nobody wrote must not be taken for
     table.processes[7];
     table.processes[8];
+    table.listing = {7, 8};
     table.reportedWritten = 1;
     EXPECT_EQ(ProcessSnapshot::capture(table).processes.size(), 1U);
     table.reportedWritten = 1000000;
@@ -170,6 +176,9 @@ TEST(ProcessCapture, SkipsPidsBelowOneAndUnreadableProcesses) {
     const auto captured = ProcessSnapshot::capture(table);
     EXPECT_EQ(captured.processes.size(), 1U);
     EXPECT_TRUE(captured.processes.contains(8));
+    EXPECT_THAT(table.calls.all(),
+                ElementsAre("proc_listallpids", "proc_listallpids", "proc_pid_rusage",
+                            "proc_pid_rusage", "mach_absolute_time", "proc_name"));
 }
 
 TEST(ProcessCapture, KeepsTheLaterReadingOfAPidThatIsListedTwice) {
@@ -183,9 +192,11 @@ TEST(ProcessCapture, NamesAProcessWithoutANameByItsPid) {
     FakeProcessTable table;
     table.processes[312].name = std::nullopt;
     table.processes[313].name = "";
+    table.processes[314].name = "X";
     const auto captured = ProcessSnapshot::capture(table);
     EXPECT_EQ(captured.processes.at(312).name, "Process 312");
     EXPECT_EQ(captured.processes.at(313).name, "Process 313");
+    EXPECT_EQ(captured.processes.at(314).name, "X");
 }
 
 TEST(ProcessCapture, RepairsNamesButDoesNotTrimThem) {

@@ -63,10 +63,15 @@ TEST(History, DropsByAgeBeforeItDropsByCount) {
     EXPECT_EQ(history.samples, std::vector<HistorySample>(601, at(1000)));
 }
 
-TEST(History, StoresAbsentValuesAsAbsent) {
+TEST(History, StoresAbsentValuesAsAbsentAndKeepsThemAsLong) {
     History history;
     history.append({.time = 1, .cpu = {}, .ram = {}, .gpu = {}});
     EXPECT_EQ(history.samples.front(), (HistorySample{.time = 1, .cpu = {}, .ram = {}, .gpu = {}}));
+    history.append({.time = 301, .cpu = {}, .ram = {}, .gpu = {}});
+    EXPECT_EQ(history.samples.size(), 2U);
+    history.append({.time = 302, .cpu = {}, .ram = {}, .gpu = {}});
+    ASSERT_EQ(history.samples.size(), 2U);
+    EXPECT_EQ(history.samples.front().time, 301.0);
 }
 
 }  // namespace

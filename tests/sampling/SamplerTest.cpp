@@ -136,7 +136,8 @@ TEST_F(SamplerTest, OfEquallyBusyGPUsTheFirstIsReported) {
 
 TEST_F(SamplerTest, GPUValuesThatCannotBeTrueContributeNothing) {
     gpus.addUtilization(120.0);
-    gpus.addUtilization(-1.0);
+    gpus.addUtilization(100.1);
+    gpus.addUtilization(-0.1);
     gpus.addUtilization(std::numeric_limits<double>::infinity());
     gpus.addUtilization(std::nan(""));
     gpus.addUtilization(std::string("50"));

@@ -61,6 +61,12 @@ TEST_F(SettingsWindowTest, HoldsItsControlsInOrderWithTheirFramesAndTexts) {
     }
 }
 
+TEST_F(SettingsWindowTest, IsBuiltWithAnEmptyStatusLineAndOffScreen) {
+    const SettingsWindow built(application());
+    EXPECT_EQ(text(built.loginStatus), "");
+    EXPECT_FALSE(window().visible);
+}
+
 TEST_F(SettingsWindowTest, OpensOnTheStoredChoices) {
     platform.store.setBool(true, "ramInGB");
     platform.store.setDouble(8.0, "fontSize");
