@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "dashboard/Dashboard.h"
+#include "platform/MainThread.h"
 #include "platform/Platform.h"
 #include "processes/ProcessSnapshot.h"
 #include "sampling/History.h"
@@ -24,7 +25,8 @@ struct ProcessTask {
     bool isCancelled = false;
 };
 
-/// Main thread only, like everything that it calls except the capture of processes. Held by
+/// Main thread only, like everything that it calls except the capture of processes; what draws the
+/// item, writes preferences or opens a window ends the process on any other thread. Held by
 /// std::shared_ptr, so that work which comes back late can tell whether it still exists. The state
 /// is public: it is the table by which the subsystems share one set of facts, and what tests read.
 class AppDelegate final : public ApplicationDelegate,
@@ -77,6 +79,7 @@ private:
                               ProcessSnapshot snapshot);
     void advanceProcessGeneration();
 
+    MainThread mainThread_;
     Platform& platform_;
     Application& application_;
     std::vector<std::string> arguments_;

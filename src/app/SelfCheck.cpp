@@ -96,15 +96,7 @@ constexpr std::array<FixedCheck, 10> checks{{
     trap();
 }
 
-std::string detailsLine(Sampler& sampler, std::size_t processCount) {
-    const auto gpu = sampler.gpu();
-    const auto pressure = sampler.pressure();
-    return "GPU: " + (gpu ? decimal(*gpu, 0) + "%" : "unavailable") +
-           "; memory pressure: " + std::string(title(pressure)) +
-           "; readable processes: " + std::to_string(processCount);
-}
-
-void checkLiveReadings(const SelfCheckEnvironment& environment) {
+LiveReadings takeLiveReadings(const SelfCheckEnvironment& environment) {
     const auto snapshot = ProcessSnapshot::capture(environment.processTable);
     require(snapshot.processes.contains(environment.processTable.getpid()));
 
@@ -116,12 +108,11 @@ void checkLiveReadings(const SelfCheckEnvironment& environment) {
     if (!cpu || !memory) {
         fatalError(environment.errors);
     }
-    environment.output << detailsLine(sampler, snapshot.processes.size()) << std::endl;
-    require(*cpu >= 0 && *cpu <= 100 && memory->used <= memory->total);
-    environment.output << "Checks passed. Live CPU: " << decimal(*cpu, 1)
-                       << "%, RAM: " << decimal(memory->percent(), 1) << "% ("
-                       << decimal(memory->usedGigabytes(), 1) << " / "
-                       << decimal(memory->totalGigabytes(), 1) << " GB)" << std::endl;
+    return {.cpu = *cpu,
+            .memory = *memory,
+            .gpu = sampler.gpu(),
+            .pressure = sampler.pressure(),
+            .processCount = snapshot.processes.size()};
 }
 
 }  // namespace
@@ -130,11 +121,23 @@ std::span<const FixedCheck> fixedChecks() {
     return checks;
 }
 
+void reportLiveReadings(const LiveReadings& readings, std::ostream& output) {
+    const auto& [cpu, memory, gpu, pressure, processCount] = readings;
+    output << "GPU: " << (gpu ? decimal(*gpu, 0) + "%" : "unavailable")
+           << "; memory pressure: " << title(pressure)
+           << "; readable processes: " << std::to_string(processCount) << std::endl;
+    require(cpu >= 0 && cpu <= 100 && memory.used <= memory.total);
+    output << "Checks passed. Live CPU: " << decimal(cpu, 1)
+           << "%, RAM: " << decimal(memory.percent(), 1) << "% ("
+           << decimal(memory.usedGigabytes(), 1) << " / " << decimal(memory.totalGigabytes(), 1)
+           << " GB)" << std::endl;
+}
+
 void selfCheck(const SelfCheckEnvironment& environment) {
-    for (const FixedCheck& check : fixedChecks()) {
+    for (const FixedCheck& check : environment.checks) {
         require(check.holds());
     }
-    checkLiveReadings(environment);
+    reportLiveReadings(takeLiveReadings(environment), environment.output);
 }
 
 }  // namespace zephrine

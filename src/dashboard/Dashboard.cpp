@@ -42,6 +42,7 @@ Dashboard::Dashboard(Application& application, const Formatting& formatting)
       cadence(widgets_.makeLabel("Updates every second")) {}
 
 void Dashboard::loadView() {
+    mainThread_.requireCurrent();
     addHeader();
     addReadings();
     addGraph();
@@ -54,12 +55,14 @@ View& Dashboard::view() {
 }
 
 void Dashboard::openSettings() {
+    mainThread_.requireCurrent();
     if (const auto controller = owner.lock()) {
         controller->openSettings();
     }
 }
 
 void Dashboard::quitApp() {
+    mainThread_.requireCurrent();
     application_.terminate();
 }
 

@@ -12,6 +12,7 @@
 #include "dashboard/HistoryView.h"
 #include "platform/Application.h"
 #include "platform/Formatting.h"
+#include "platform/MainThread.h"
 #include "processes/ProcessSnapshot.h"
 #include "sampling/History.h"
 #include "sampling/MemoryPressure.h"
@@ -21,7 +22,8 @@ namespace zephrine {
 
 class AppDelegate;
 
-/// Main thread only. Labels are public for the same reason as the controller's state.
+/// Main thread only: on any other, what builds it, writes to it or answers a click ends the
+/// process. Labels are public for the same reason as the controller's state.
 class Dashboard {
 public:
     static constexpr std::size_t processRowCount = 5;
@@ -48,6 +50,7 @@ public:
     void quitApp();
 
 private:
+    MainThread mainThread_;
     Application& application_;
     const Formatting& formatting_;
     WidgetFactory& widgets_;

@@ -22,6 +22,7 @@ std::string memoryDetail(const std::optional<MemoryReading>& memory) {
 void Dashboard::update(std::optional<double> cpuPercent, const std::optional<MemoryReading>& memory,
                        std::optional<double> gpuPercent, MemoryPressure level,
                        const History& readings, double interval) {
+    mainThread_.requireCurrent();
     cpu->setStringValue(percentText(cpuPercent));
     ram->setStringValue(percentText(percentOf(memory)));
     gpu->setStringValue(percentText(gpuPercent));

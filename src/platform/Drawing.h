@@ -53,8 +53,9 @@ public:
     virtual void drawText(std::string_view text, Point origin, const Font& font, Color color) = 0;
 };
 
-/// A picture that is drawn on demand, at whatever scale and as often as the system needs it. The
-/// handler draws from the values that it captured and from nothing else; true means drawn.
+/// A picture that is drawn on demand, on the main thread, at whatever scale and as often as the
+/// system needs it. The handler draws from the values that it captured and from nothing else; true
+/// means drawn.
 struct Image {
     Size size;
     std::function<bool(DrawingContext&)> drawingHandler;

@@ -42,6 +42,7 @@ void Dashboard::updateProcesses(std::vector<ProcessUsage> rows) {
 }
 
 void Dashboard::sortProcesses() {
+    mainThread_.requireCurrent();
     require(processSort != nullptr && processNames.size() >= processRowCount &&
             processValues.size() >= processRowCount);
     const bool byMemory = processSort->selectedSegment() == memorySegment;

@@ -46,6 +46,7 @@ void AppDelegate::updateLoginStatus() {
 }
 
 void AppDelegate::loginChanged() {
+    mainThread_.requireCurrent();
     setLogin(settingsWindow != nullptr && settingsWindow->loginButton->isOn());
 }
 

@@ -73,6 +73,7 @@ std::unique_ptr<PopUpButton> SettingsWindow::addRow(double y, const std::string&
 }
 
 void AppDelegate::openSettings() {
+    mainThread_.requireCurrent();
     popover->performClose();
     if (!settingsWindow) {
         makeSettingsWindow();
@@ -98,18 +99,21 @@ void AppDelegate::makeSettingsWindow() {
 }
 
 void AppDelegate::ramChanged(const PopUpButton& sender) {
+    mainThread_.requireCurrent();
     defaults.setBool(sender.indexOfSelectedItem() == gigabytesItem, preferences::ramInGBKey);
     lastImageKey.clear();
     updateStatusItem();
 }
 
 void AppDelegate::fontChanged(const PopUpButton& sender) {
+    mainThread_.requireCurrent();
     preferences::fontSize.choose(sender.indexOfSelectedItem(), defaults);
     lastImageKey.clear();
     updateStatusItem();
 }
 
 void AppDelegate::intervalChanged(const PopUpButton& sender) {
+    mainThread_.requireCurrent();
     preferences::refreshInterval.choose(sender.indexOfSelectedItem(), defaults);
     resetTimer();
 }

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/MainThread.h"
+
 namespace zephrine {
 
 namespace {
@@ -80,7 +82,9 @@ void drawBars(DrawingContext& context, const StatusContent& content, double side
 }  // namespace
 
 Image squareImage(const StatusContent& content, double side, const TextMeasure& measure) {
-    return {.size = {side, side}, .drawingHandler = [content, side, &measure](auto& context) {
+    return {.size = {side, side},
+            .drawingHandler = [content, side, &measure, mainThread = MainThread()](auto& context) {
+                mainThread.requireCurrent();
                 if (side < smallestLegibleSide) {
                     drawBars(context, content, side);
                 } else {

@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "platform/MainThread.h"
+
 namespace zephrine {
 
 namespace {
@@ -38,7 +40,9 @@ std::string secondLine(const StatusContent& content) {
 Image statusImage(const StatusContent& content, const TextMeasure& measure) {
     const Font font = fontOf(content);
     const double width = widthOf(font, measure);
-    return {.size = {width, imageHeight}, .drawingHandler = [content, font, width](auto& context) {
+    return {.size = {width, imageHeight},
+            .drawingHandler = [content, font, width, mainThread = MainThread()](auto& context) {
+                mainThread.requireCurrent();
                 const Color text = content.isDark ? Color::white : Color::black;
                 context.drawText(firstLine(content), {margin, lineHeight}, font, text);
                 context.drawText(secondLine(content), {margin, 0}, font, text);
@@ -54,15 +58,17 @@ Image lineImage(const StatusContent& content, const TextMeasure& measure) {
         margin + std::ceil(measure.sizeOfText(firstLine(content), font).width) + lineGap;
     const double width = second + widthOf(font, measure) - margin;
 
-    return {.size = {width, lineHeight},
-            .drawingHandler = [content, font, second, width](auto& context) {
-                const Color text = content.isDark ? Color::white : Color::black;
-                context.drawText(firstLine(content), {margin, 0}, font, text);
-                context.drawText(secondLine(content), {second, 0}, font, text);
-                context.setFill(content.dot);
-                context.fillOval({width - 6, 4, 4, 4});
-                return true;
-            }};
+    return {
+        .size = {width, lineHeight},
+        .drawingHandler = [content, font, second, width, mainThread = MainThread()](auto& context) {
+            mainThread.requireCurrent();
+            const Color text = content.isDark ? Color::white : Color::black;
+            context.drawText(firstLine(content), {margin, 0}, font, text);
+            context.drawText(secondLine(content), {second, 0}, font, text);
+            context.setFill(content.dot);
+            context.fillOval({width - 6, 4, 4, 4});
+            return true;
+        }};
 }
 
 }  // namespace zephrine

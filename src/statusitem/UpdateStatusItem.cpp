@@ -16,6 +16,7 @@ constexpr double itemPadding = 12;
 }  // namespace
 
 void AppDelegate::updateStatusItem() {
+    mainThread_.requireCurrent();
     require(statusItem != nullptr);
     StatusItemButton* button = statusItem->button();
     if (button == nullptr) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "app/ControllerTest.h"
 
@@ -9,41 +9,16 @@ namespace zephrine {
 namespace {
 
 using AppDelegateTest = ControllerTest;
-using AppDelegateDeathTest = ControllerTest;
 
-TEST_F(AppDelegateTest, PutsAnItemIntoTheStatusBar) {
-    launch();
-    EXPECT_EQ(application().bar.lengths.front(), 74.0);
-    EXPECT_EQ(application().bar.autosaveName, "Zephrine");
-    button().action();
-    EXPECT_TRUE(popover().shown);
-}
-
-TEST_F(AppDelegateDeathTest, CannotLaunchWithoutAnItem) {
-    application().bar.givesItem = false;
-    EXPECT_DEATH(launch(), "^$");
-}
-
-TEST_F(AppDelegateTest, HandsTheDashboardToThePopover) {
-    launch();
-    EXPECT_EQ(popover().content, &controller->dashboard->view());
-    EXPECT_EQ(popover().size, (Size{360, 660}));
-}
-
-TEST_F(AppDelegateTest, RefreshesOnceAtLaunchWithoutACPUReading) {
-    launch();
-    ASSERT_EQ(controller->history.samples.size(), 1U);
-    EXPECT_EQ(controller->history.samples[0].cpu, std::nullopt);
-    EXPECT_TRUE(controller->history.samples[0].ram.has_value());
-}
-
-TEST_F(AppDelegateTest, ReadsTheCountersInOrder) {
-    launch();
-    platform.host.calls.clear();
+TEST_F(AppDelegateTest, ReadsTheCountersAndTheClockThenUpdatesTheItemAndTheDashboard) {
+    platform.gpus.addUtilization(5.0);
+    launch({"--show-dashboard"});
+    calls().clear();
     controller->refresh();
-    EXPECT_THAT(platform.host.calls,
-                testing::ElementsAre("host_statistics", "host_page_size", "host_statistics64",
-                                     "memorystatus_vm_pressure_level"));
+    EXPECT_TRUE(
+        calls().inOrder({"host_statistics", "host_page_size", "host_statistics64",
+                         "IORegistryEntryCreateCFProperty", "memorystatus_vm_pressure_level",
+                         "systemUptime", "setToolTip", "setNeedsDisplay"}));
 }
 
 TEST_F(AppDelegateTest, EveryRefreshRecordsOneSample) {
@@ -103,7 +78,9 @@ TEST_F(AppDelegateTest, ANewIntervalReplacesTheTimerAndDoesNotRefresh) {
     platform.store.setInteger(5, "refreshInterval");
     launch();
     platform.store.setDouble(0.5, "refreshInterval");
+    calls().clear();
     controller->resetTimer();
+    EXPECT_TRUE(calls().inOrder({"invalidate", "scheduleTimer"}));
     ASSERT_EQ(loop().timers.size(), 1U);
     EXPECT_EQ(loop().timers.front().interval, 0.5);
     EXPECT_EQ(controller->history.samples.size(), 1U);
@@ -128,13 +105,25 @@ TEST_F(AppDelegateTest, WakingUpDropsTheCPUBaselineAndRefreshesAtOnce) {
     EXPECT_EQ(controller->latestCPU, 50.0);
 }
 
+TEST_F(AppDelegateTest, WakingUpFindsTheGPUsAgainBeforeItReadsThem) {
+    platform.gpus.addUtilization(5.0);
+    launch();
+    calls().clear();
+    application().didWake();
+    EXPECT_TRUE(calls().inOrder(
+        {"IOObjectRelease", "IOServiceGetMatchingServices", "IORegistryEntryCreateCFProperty"}));
+    EXPECT_FALSE(calls().has("scheduleTimer"));
+}
+
 TEST_F(AppDelegateTest, EveryChangeOfAppearanceDrawsTheItemAgain) {
     launch();
     EXPECT_EQ(button().imagesSet, 1);
+    calls().clear();
     application().themeChanged();
     EXPECT_EQ(button().imagesSet, 2);
     application().themeChanged();
     EXPECT_EQ(button().imagesSet, 3);
+    EXPECT_FALSE(calls().has("host_statistics")) << "nothing new is measured";
 }
 
 TEST_F(AppDelegateTest, DoesNotTouchTheDashboardWhileItIsHidden) {
@@ -164,7 +153,7 @@ TEST_F(AppDelegateTest, DoesNoWorkForAHiddenDashboard) {
 
     popover().performClose();
     const int before = dashboardWork(*controller);
-    platform.table.calls.clear();
+    calls().clear();
     for (int tick = 0; tick < 5; ++tick) {
         platform.host.advance(30, 70);
         loop().fire(1.0);
@@ -172,7 +161,7 @@ TEST_F(AppDelegateTest, DoesNoWorkForAHiddenDashboard) {
     EXPECT_EQ(controller->history.samples.size(), 7U);
     EXPECT_EQ(dashboardWork(*controller), before);
     EXPECT_TRUE(worker().jobs.empty());
-    EXPECT_TRUE(platform.table.calls.empty());
+    EXPECT_FALSE(calls().has("proc_listallpids"));
     EXPECT_EQ(loop().timers.size(), 1U) << "that of the refreshes";
 }
 
@@ -181,6 +170,13 @@ TEST_F(AppDelegateTest, UpdatesTheDashboardWhileThePopoverIsShown) {
     platform.host.advance(30, 70);
     controller->refresh();
     EXPECT_EQ(text(controller->dashboard->cpu), "30%");
+}
+
+TEST_F(AppDelegateTest, TellsTheDashboardTheIntervalOfTheMoment) {
+    launch({"--show-dashboard"});
+    platform.store.setInteger(5, "refreshInterval");
+    controller->refresh();
+    EXPECT_EQ(text(controller->dashboard->cadence).substr(0, 16), "Updates every 5s");
 }
 
 TEST_F(AppDelegateTest, UpdatesTheDashboardOnlyWhileTheInspectionWindowIsVisible) {

@@ -15,12 +15,17 @@ namespace zephrine {
 
 class ControllerTest : public testing::Test {
 protected:
-    void launch(const std::vector<std::string>& options = {}) {
+    /// Makes a controller that has not launched yet.
+    void prepare(const std::vector<std::string>& options = {}) {
         std::vector<std::string> arguments{"zephrine"};
         arguments.insert(arguments.end(), options.begin(), options.end());
         controller = std::make_shared<AppDelegate>(platform, application(), arguments);
+    }
+    void launch(const std::vector<std::string>& options = {}) {
+        prepare(options);
         controller->applicationDidFinishLaunching();
     }
+    CallLog& calls() { return platform.calls; }
     FakeApplication& application() { return platform.application; }
     FakeRunLoop& loop() { return platform.application.loop; }
     FakeBackgroundWorker& worker() { return platform.application.worker; }

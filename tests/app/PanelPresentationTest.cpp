@@ -22,14 +22,30 @@ TEST_F(PanelPresentationTest, ClicksOpenCloseAndOpenThePopover) {
 
 TEST_F(PanelPresentationTest, OpensWithTheReadingsOfTheLastRefresh) {
     platform.host.setUsed(4ULL << 30U);
+    platform.host.pressureLevel = 4;
+    platform.gpus.addUtilization(5.0);
+    platform.store.setInteger(2, "refreshInterval");
     launch();
     platform.host.advance(30, 70);
     controller->refresh();
-    platform.host.calls.clear();
+    calls().clear();
     controller->showDashboard();
     EXPECT_EQ(text(controller->dashboard->cpu), "30%");
     EXPECT_EQ(text(controller->dashboard->ram), "25%");
-    EXPECT_TRUE(platform.host.calls.empty());
+    EXPECT_EQ(text(controller->dashboard->gpu), "5%");
+    EXPECT_EQ(text(controller->dashboard->pressure), "●  Memory pressure: High");
+    EXPECT_EQ(text(controller->dashboard->cadence).substr(0, 16), "Updates every 2s");
+    EXPECT_EQ(controller->dashboard->history.samples(), controller->history.samples);
+    EXPECT_FALSE(calls().has("host_statistics"));
+    EXPECT_FALSE(calls().has("host_statistics64"));
+}
+
+TEST_F(PanelPresentationTest, UpdatesTheDashboardThenActivatesThenShowsThenListsProcesses) {
+    launch();
+    calls().clear();
+    controller->showDashboard();
+    EXPECT_TRUE(calls().inOrder({"setNeedsDisplay", "activateIgnoringOtherApps", "showRelativeTo",
+                                 "perform", "scheduleTimer"}));
 }
 
 TEST_F(PanelPresentationTest, TheLaunchOptionOpensThePopoverAfterTheFirstRefresh) {
@@ -68,6 +84,13 @@ TEST_F(PanelPresentationTest, AnotherStartsOptionsDoWhatTheyDoAtLaunch) {
     controller->performLaunchOption("--inspect");
     EXPECT_EQ(inspectionWindow().title, "Zephrine Dashboard");
     EXPECT_TRUE(inspectionWindow().visible);
+}
+
+TEST_F(PanelPresentationTest, AnotherStartsOptionThatIsNoneDoesNothing) {
+    launch();
+    calls().clear();
+    controller->performLaunchOption("--unknown");
+    EXPECT_TRUE(calls().all().empty());
 }
 
 TEST_F(PanelPresentationTest, InspectingAgainReplacesTheInspectionWindow) {
@@ -112,8 +135,16 @@ TEST_F(PanelPresentationTest, TheInspectionWindowIsAnOrdinaryCentredWindow) {
     EXPECT_EQ(window.title, "Zephrine Dashboard");
     EXPECT_EQ(window.size, (Size{360, 660}));
     EXPECT_EQ(window.content, &controller->dashboard->view());
-    EXPECT_EQ(window.calls, (std::vector<std::string>{"center", "makeKeyAndOrderFront"}));
     EXPECT_EQ(application().activations, 1);
+}
+
+TEST_F(PanelPresentationTest, TheInspectionWindowComesToTheFrontBeforeTheApplicationDoes) {
+    launch();
+    calls().clear();
+    controller->openInspectionWindow();
+    EXPECT_TRUE(calls().inOrder({"setContentView Zephrine Dashboard", "center Zephrine Dashboard",
+                                 "makeKeyAndOrderFront Zephrine Dashboard",
+                                 "activateIgnoringOtherApps", "perform", "scheduleTimer"}));
 }
 
 TEST_F(PanelPresentationTest, TheInspectionWindowAloneGetsItsProcessListEveryTwoSeconds) {

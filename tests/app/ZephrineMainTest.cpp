@@ -66,6 +66,22 @@ TEST_F(ZephrineMainTest, TheSelfTestWinsOverTheLoginStatus) {
               Not(HasSubstr("Launch at login status"))));
 }
 
+TEST_F(ZephrineMainTest, APassingSelfTestPrintsItsTwoLinesAndNothingElse) {
+    platform.table.processes[1];
+    platform.host.ticksRun = true;
+    EXPECT_EQ(run({"--login-status", "--show-dashboard", "--self-test", "anything"}), 0);
+    EXPECT_EQ(output,
+              "GPU: unavailable; memory pressure: Normal; readable processes: 1\n"
+              "Checks passed. Live CPU: 30.0%, RAM: 0.0% (0.0 / 16.0 GB)\n");
+    EXPECT_EQ(errors, "");
+    EXPECT_EQ(platform.applicationsAskedFor, 0);
+}
+
+TEST_F(ZephrineMainTest, UnknownArgumentsDoNotChangeTheLoginStatus) {
+    EXPECT_EQ(run({"anything", "--login-status", "--unknown"}), 0);
+    EXPECT_EQ(output, "Launch at login status: 0\n");
+}
+
 TEST_F(ZephrineMainTest, AnythingElseStartsTheApplication) {
     for (const char* option : {"--Login-Status", "--login-status=1", "-login-status",
                                "--self-test=yes", "--SELF-TEST", "anything"}) {
@@ -79,6 +95,7 @@ TEST_F(ZephrineMainTest, AnythingElseStartsTheApplication) {
 TEST_F(ZephrineMainTest, RunsAsAnAccessoryWithAControllerThatEndsWithTheLoop) {
     EXPECT_EQ(run({}), 0);
     EXPECT_TRUE(platform.application.isAccessory);
+    EXPECT_TRUE(platform.calls.inOrder({"setDelegate", "setAccessoryActivationPolicy", "run"}));
     EXPECT_TRUE(platform.application.loop.timers.empty());
 }
 

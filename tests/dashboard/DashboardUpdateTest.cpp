@@ -35,6 +35,15 @@ TEST_F(DashboardUpdateTest, WritesEveryReading) {
     EXPECT_EQ(spoken(), "CPU 42%, RAM 71%, GPU 5%. 1 recent samples.");
 }
 
+TEST_F(DashboardUpdateTest, WritesFromTopToBottomAndSpeaksOnceTheFiguresStand) {
+    dashboard.update(42, memory, 5, MemoryPressure::warning, {}, 2);
+    EXPECT_TRUE(platform.calls.inOrder(
+        {"setStringValue 42%", "setStringValue 71%", "setStringValue 5%",
+         "setStringValue Driver-reported usage", "setStringValue 11.4 / 16 GB",
+         "setStringValue ●  Memory pressure: Elevated", "setNeedsDisplay", "setAccessibilityValue",
+         "setStringValue " + label(dashboard.cadence).text}));
+}
+
 TEST_F(DashboardUpdateTest, NamesWhatIsAbsent) {
     dashboard.update(42, memory, 5, MemoryPressure::normal, {}, 1);
     dashboard.update({}, {}, {}, MemoryPressure::unknown, {}, 1);

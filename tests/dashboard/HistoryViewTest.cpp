@@ -103,6 +103,22 @@ TEST_F(HistoryViewTest, ClampsValuesToTheGrid) {
     EXPECT_EQ(line[2].point.y, 2);
 }
 
+TEST_F(HistoryViewTest, StrokesASeriesWithoutAnyValueToo) {
+    view.setSamples({cpuAt(0, {}), cpuAt(1, {})});
+    const auto context = drawn();
+    ASSERT_EQ(context.strokes.size(), 6U);
+    EXPECT_TRUE(context.strokes[3].path.elements().empty());
+}
+
+TEST_F(HistoryViewTest, FollowsTheSizeOfItsView) {
+    view.setSamples({cpuAt(0, 0), cpuAt(300, 100)});
+    RecordingContext context;
+    fake<FakeCanvas>(view.canvas()).draw(context, {100, 54});
+    EXPECT_EQ(context.strokes[2].path.elements()[1].point, (Point{100, 52}));
+    const std::vector<Path::Element> ends{{Verb::move, {0, 2}}, {Verb::move, {100, 52}}};
+    EXPECT_EQ(context.strokes[3].path.elements(), ends);
+}
+
 TEST_F(HistoryViewTest, PinsOldSamplesToTheLeftEdge) {
     const auto line = cpuSeries({cpuAt(0, 1), cpuAt(100, 1), cpuAt(400, 1)});
     EXPECT_EQ(line[0].point.x, 0);

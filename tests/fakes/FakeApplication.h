@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "fakes/CallLog.h"
 #include "fakes/FakeDrawing.h"
 #include "fakes/FakeRunLoop.h"
 #include "fakes/FakeStatusBar.h"
@@ -16,12 +17,15 @@ namespace zephrine {
 
 class FakeApplication : public Application {
 public:
-    FakeRunLoop loop;
-    FakeBackgroundWorker worker;
-    FakeStatusBar bar;
+    explicit FakeApplication(CallLog log = {}) : calls(std::move(log)) {}
+
+    CallLog calls;
+    FakeRunLoop loop{calls};
+    FakeBackgroundWorker worker{calls};
+    FakeStatusBar bar{calls};
     FakeTextMeasure measure;
-    FakeWidgetFactory widgetFactory;
-    FakeWindowFactory windowFactory;
+    FakeWidgetFactory widgetFactory{calls};
+    FakeWindowFactory windowFactory{calls};
     ApplicationDelegate* delegate = nullptr;
     bool isAccessory = false;
     int runs = 0;
@@ -31,16 +35,33 @@ public:
     std::function<void()> didWake;
     std::function<void()> themeChanged;
 
-    void setDelegate(ApplicationDelegate& newDelegate) override { delegate = &newDelegate; }
-    void setAccessoryActivationPolicy() override { isAccessory = true; }
+    void setDelegate(ApplicationDelegate& newDelegate) override {
+        calls.note("setDelegate");
+        delegate = &newDelegate;
+    }
+    void setAccessoryActivationPolicy() override {
+        calls.note("setAccessoryActivationPolicy");
+        isAccessory = true;
+    }
     void run() override {
+        calls.note("run");
         ++runs;
         delegate->applicationDidFinishLaunching();
     }
-    void terminate() override { ++terminations; }
-    void activateIgnoringOtherApps() override { ++activations; }
-    void observeDidWake(std::function<void()> handler) override { didWake = std::move(handler); }
+    void terminate() override {
+        calls.note("terminate");
+        ++terminations;
+    }
+    void activateIgnoringOtherApps() override {
+        calls.note("activateIgnoringOtherApps");
+        ++activations;
+    }
+    void observeDidWake(std::function<void()> handler) override {
+        calls.note("observeDidWake");
+        didWake = std::move(handler);
+    }
     void observeThemeChanged(std::function<void()> handler) override {
+        calls.note("observeThemeChanged");
         themeChanged = std::move(handler);
     }
     const Vocabulary& vocabulary() const override { return words; }

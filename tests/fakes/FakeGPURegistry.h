@@ -3,13 +3,18 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
+#include "fakes/CallLog.h"
 #include "platform/GPURegistry.h"
 
 namespace zephrine {
 
 class FakeGPURegistry : public GPURegistry {
 public:
+    explicit FakeGPURegistry(CallLog log = {}) : calls(std::move(log)) {}
+
+    CallLog calls;
     struct Service {
         std::optional<Property> statistics;
         int references = 0;
@@ -27,6 +32,7 @@ public:
 
     std::optional<std::vector<GPUService>> IOServiceGetMatchingServices(
         std::string_view name) override {
+        calls.note("IOServiceGetMatchingServices");
         ++lookUps;
         if (lookUpFails) {
             return std::nullopt;
@@ -42,12 +48,16 @@ public:
     }
     const Property* IORegistryEntryCreateCFProperty(GPUService service,
                                                     std::string_view key) override {
+        calls.note("IORegistryEntryCreateCFProperty");
         ++propertyReads;
         lastKey = key;
         const auto& statistics = services.at(service).statistics;
         return statistics ? &*statistics : nullptr;
     }
-    void IOObjectRelease(GPUService service) override { --services.at(service).references; }
+    void IOObjectRelease(GPUService service) override {
+        calls.note("IOObjectRelease");
+        --services.at(service).references;
+    }
 };
 
 }  // namespace zephrine

@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Counters that a test sets, with a record of the order in which they were read.
+// Counters that a test sets.
 #pragma once
 
-#include <string>
-#include <vector>
+#include <utility>
 
+#include "fakes/CallLog.h"
 #include "platform/HostCounters.h"
 
 namespace zephrine {
 
 class FakeHostCounters : public HostCounters {
 public:
+    explicit FakeHostCounters(CallLog log = {}) : calls(std::move(log)) {}
+
+    CallLog calls;
     std::optional<HostCPULoadInfo> ticks = HostCPULoadInfo{10, 10, 70, 10};
     std::optional<std::uint64_t> pageSize = 4096;
     std::optional<vm_statistics64> statistics = vm_statistics64{};
@@ -18,29 +21,35 @@ public:
     std::uint64_t memory = 16ULL << 30U;
     double uptime = 1000;
     int processors = 4;
-    std::vector<std::string> calls;  ///< the counters' names, in the order of reading
+    bool ticksRun = false;  ///< whether the processors work between any two readings
 
     std::optional<HostCPULoadInfo> host_statistics() override {
-        calls.emplace_back("host_statistics");
+        calls.note("host_statistics");
+        if (ticksRun) {
+            advance(30, 70);
+        }
         return ticks;
     }
     std::optional<std::uint64_t> host_page_size() override {
-        calls.emplace_back("host_page_size");
+        calls.note("host_page_size");
         return pageSize;
     }
     std::optional<vm_statistics64> host_statistics64() override {
-        calls.emplace_back("host_statistics64");
+        calls.note("host_statistics64");
         return statistics;
     }
     std::optional<std::int32_t> memorystatus_vm_pressure_level() override {
-        calls.emplace_back("memorystatus_vm_pressure_level");
+        calls.note("memorystatus_vm_pressure_level");
         return pressureLevel;
     }
     std::uint64_t physicalMemory() override {
-        calls.emplace_back("physicalMemory");
+        calls.note("physicalMemory");
         return memory;
     }
-    double systemUptime() override { return uptime; }
+    double systemUptime() override {
+        calls.note("systemUptime");
+        return uptime;
+    }
     int activeProcessorCount() override { return processors; }
 
     /// Adds `busy` and `idle` ticks, as if that time had passed.

@@ -2,6 +2,7 @@
 // A whole machine for a test: every service a fake with public state.
 #pragma once
 
+#include "fakes/CallLog.h"
 #include "fakes/FakeApplication.h"
 #include "fakes/FakeGPURegistry.h"
 #include "fakes/FakeHostCounters.h"
@@ -13,13 +14,14 @@ namespace zephrine {
 
 class FakePlatform : public Platform {
 public:
-    FakeHostCounters host;
-    FakeGPURegistry gpus;
-    FakeProcessTable table;
-    FakePreferenceStore store;
-    FakeLoginItem login;
+    CallLog calls;  ///< of everything below
+    FakeHostCounters host{calls};
+    FakeGPURegistry gpus{calls};
+    FakeProcessTable table{calls};
+    FakePreferenceStore store{calls};
+    FakeLoginItem login{calls};
     FakeFormatting texts;
-    FakeApplication application;
+    FakeApplication application{calls};
     bool hasDesktop = true;
     bool runsAlready = false;
     int applicationsAskedFor = 0;

@@ -9,12 +9,16 @@
 #include <stdexcept>
 #include <utility>
 
+#include "fakes/CallLog.h"
 #include "platform/RunLoop.h"
 
 namespace zephrine {
 
 class FakeRunLoop : public RunLoop {
 public:
+    explicit FakeRunLoop(CallLog log = {}) : calls(std::move(log)) {}
+
+    CallLog calls;
     struct Scheduled {
         double interval;
         double tolerance;
@@ -25,6 +29,7 @@ public:
 
     std::unique_ptr<Timer> scheduleTimer(double interval, double tolerance,
                                          std::function<void()> action) override {
+        calls.note("scheduleTimer");
         timers.push_back({interval, tolerance, std::move(action)});
         return std::make_unique<Handle>(*this, std::prev(timers.end()));
     }
@@ -56,7 +61,10 @@ private:
     public:
         Handle(FakeRunLoop& loop, std::list<Scheduled>::iterator timer)
             : loop_(loop), timer_(timer) {}
-        ~Handle() override { loop_.timers.erase(timer_); }
+        ~Handle() override {
+            loop_.calls.note("invalidate");
+            loop_.timers.erase(timer_);
+        }
         Handle(const Handle&) = delete;
         Handle& operator=(const Handle&) = delete;
 
@@ -68,9 +76,15 @@ private:
 
 class FakeBackgroundWorker : public BackgroundWorker {
 public:
+    explicit FakeBackgroundWorker(CallLog log = {}) : calls(std::move(log)) {}
+
+    CallLog calls;
     std::deque<std::function<void()>> jobs;
 
-    void perform(std::function<void()> job) override { jobs.push_back(std::move(job)); }
+    void perform(std::function<void()> job) override {
+        calls.note("perform");
+        jobs.push_back(std::move(job));
+    }
 
     /// Runs the oldest job that has not run yet.
     void release() {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "fakes/CallLog.h"
 #include "platform/Widgets.h"
 
 namespace zephrine {
@@ -14,6 +15,7 @@ struct FakePlace {};
 
 class FakeView : public virtual View {
 public:
+    CallLog calls;
     std::string kind = "view";
     Rect rect;
     std::vector<FakeView*> children;  ///< in the order of adding
@@ -26,7 +28,10 @@ public:
     [[nodiscard]] Rect frame() const override { return rect; }
     void addSubview(View& child) override { children.push_back(dynamic_cast<FakeView*>(&child)); }
     void setAccessibilityLabel(const std::string& label) override { accessibilityLabel = label; }
-    void setAccessibilityValue(const std::string& value) override { accessibilityValue = value; }
+    void setAccessibilityValue(const std::string& value) override {
+        calls.note("setAccessibilityValue");
+        accessibilityValue = value;
+    }
     void setToolTip(const std::string& text) override { toolTip = text; }
 };
 
@@ -41,6 +46,7 @@ public:
     int textsSet = 0;
 
     void setStringValue(const std::string& newText) override {
+        calls.note("setStringValue " + newText);
         text = newText;
         ++textsSet;
     }
@@ -142,43 +148,56 @@ public:
     void setDrawingHandler(std::function<void(DrawingContext&, Size)> handler) override {
         draw = std::move(handler);
     }
-    void setNeedsDisplay() override { ++displaysNeeded; }
+    void setNeedsDisplay() override {
+        calls.note("setNeedsDisplay");
+        ++displaysNeeded;
+    }
 };
 
 class FakeWidgetFactory : public WidgetFactory {
 public:
+    explicit FakeWidgetFactory(CallLog log = {}) : calls(std::move(log)) {}
+
+    CallLog calls;
     bool imagesExist = true;
 
     std::unique_ptr<View> makeView(const Rect& frame) override {
-        auto view = std::make_unique<FakeView>();
+        auto view = make<FakeView>();
         view->rect = frame;
         return view;
     }
     std::unique_ptr<Label> makeLabel(const std::string& text) override {
-        return std::make_unique<FakeLabel>(text);
+        return make<FakeLabel>(text);
     }
-    std::unique_ptr<ImageView> makeImageView() override {
-        return std::make_unique<FakeImageView>(imagesExist);
-    }
+    std::unique_ptr<ImageView> makeImageView() override { return make<FakeImageView>(imagesExist); }
     std::unique_ptr<Button> makeButton(const std::string& title) override {
-        return std::make_unique<FakeButton>(title);
+        return make<FakeButton>(title);
     }
     std::unique_ptr<CheckBox> makeCheckBox(const std::string& title) override {
-        return std::make_unique<FakeCheckBox>(title);
+        return make<FakeCheckBox>(title);
     }
     std::unique_ptr<PopUpButton> makePopUpButton(const std::vector<std::string>& titles) override {
-        return std::make_unique<FakePopUpButton>(titles);
+        return make<FakePopUpButton>(titles);
     }
     std::unique_ptr<SegmentedControl> makeSegmentedControl(
         const std::vector<std::string>& labels) override {
-        return std::make_unique<FakeSegmentedControl>(labels);
+        return make<FakeSegmentedControl>(labels);
     }
     std::unique_ptr<View> makeSeparator() override {
-        auto separator = std::make_unique<FakeView>();
+        auto separator = make<FakeView>();
         separator->kind = "separator";
         return separator;
     }
-    std::unique_ptr<Canvas> makeCanvas() override { return std::make_unique<FakeCanvas>(); }
+    std::unique_ptr<Canvas> makeCanvas() override { return make<FakeCanvas>(); }
+
+private:
+    template <typename Fake, typename... Arguments>
+    std::unique_ptr<Fake> make(Arguments... arguments) {
+        auto made = std::make_unique<Fake>(std::move(arguments)...);
+        made->calls = calls;
+        calls.note("make " + made->kind);
+        return made;
+    }
 };
 
 /// The fake behind a control that was made by a `FakeWidgetFactory`.

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "fakes/CallLog.h"
 #include "fakes/FakeWidgets.h"
 #include "platform/Windows.h"
 
@@ -47,19 +48,30 @@ private:
 
 class FakePopover : public Popover, public FakeHost {
 public:
+    explicit FakePopover(CallLog log) : calls(std::move(log)) {}
+
+    CallLog calls;
     Size size;
     StatusItemButton* anchor = nullptr;
     bool shown = false;
     bool itemIsHidden = false;  ///< by the system, as it does where there is no room
     std::function<void()> didClose;
 
-    void setContentView(View& view) override { give(view); }
-    void setContentSize(Size newSize) override { size = newSize; }
+    void setContentView(View& view) override {
+        calls.note("setContentView");
+        give(view);
+    }
+    void setContentSize(Size newSize) override {
+        calls.note("setContentSize");
+        size = newSize;
+    }
     void setDidCloseHandler(std::function<void()> handler) override {
+        calls.note("setDidCloseHandler");
         didClose = std::move(handler);
     }
     [[nodiscard]] bool isShown() const override { return shown; }
     void showRelativeTo(StatusItemButton& button) override {
+        calls.note("showRelativeTo");
         if (shown || itemIsHidden) {
             return;
         }
@@ -68,6 +80,7 @@ public:
         shown = true;
     }
     void performClose() override {
+        calls.note("performClose");
         if (shown) {
             shown = false;
             giveBack();
@@ -80,17 +93,22 @@ public:
 
 class FakeWindow : public Window, public FakeHost {
 public:
-    FakeWindow(std::string text, Size contentSize) : title(std::move(text)), size(contentSize) {}
+    FakeWindow(std::string text, Size contentSize, CallLog log)
+        : calls(std::move(log)), title(std::move(text)), size(contentSize) {}
+
+    CallLog calls;  ///< each with the title of the window
     std::string title;
     Size size;
     bool visible = false;
-    std::vector<std::string> calls;
 
-    void setContentView(View& view) override { give(view); }
+    void setContentView(View& view) override {
+        note("setContentView");
+        give(view);
+    }
     [[nodiscard]] bool isVisible() const override { return visible; }
-    void center() override { calls.emplace_back("center"); }
+    void center() override { note("center"); }
     void makeKeyAndOrderFront() override {
-        calls.emplace_back("makeKeyAndOrderFront");
+        note("makeKeyAndOrderFront");
         take();
         visible = true;
     }
@@ -99,10 +117,16 @@ public:
         visible = false;
         giveBack();
     }
+
+private:
+    void note(const std::string& operation) { calls.note(operation + " " + title); }
 };
 
 class FakeWindowFactory : public WindowFactory {
 public:
+    explicit FakeWindowFactory(CallLog log = {}) : calls(std::move(log)) {}
+
+    CallLog calls;
     struct Alert {
         std::string messageText;
         std::string informativeText;
@@ -113,17 +137,18 @@ public:
     std::vector<FakeWindow*> windows;  ///< all that were made; the makers own them
 
     std::unique_ptr<Popover> makePopover() override {
-        auto made = std::make_unique<FakePopover>();
+        auto made = std::make_unique<FakePopover>(calls);
         popover = made.get();
         return made;
     }
     std::unique_ptr<Window> makeWindow(const std::string& title, Size contentSize) override {
-        auto made = std::make_unique<FakeWindow>(title, contentSize);
+        auto made = std::make_unique<FakeWindow>(title, contentSize, calls);
         windows.push_back(made.get());
         return made;
     }
     void runModalAlert(const std::string& messageText,
                        const std::string& informativeText) override {
+        calls.note("runModalAlert");
         if (whileAlert) {
             whileAlert();
         }

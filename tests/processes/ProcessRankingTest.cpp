@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 #include "dashboard/Dashboard.h"
 #include "fakes/FakePlatform.h"
 
@@ -43,9 +45,10 @@ TEST_F(ProcessRankingTest, AnEmptyDeliverySaysSo) {
 }
 
 TEST_F(ProcessRankingTest, RanksByCPUShareWithTheHighestFirst) {
-    dashboard.updateProcesses({{1, "a", 1.0, 0}, {2, "b", 99.96, 0}, {3, "c", 12.34, 0}});
-    EXPECT_THAT(names(), ElementsAre("b", "c", "a", "", ""));
-    EXPECT_THAT(values(), ElementsAre("100.0%", "12.3%", "1.0%", "", ""));
+    dashboard.updateProcesses(
+        {{1, "a", 1.0, 0}, {2, "b", 99.96, 0}, {3, "c", 12.34, 0}, {4, "d", 100.0, 0}});
+    EXPECT_THAT(names(), ElementsAre("d", "b", "c", "a", ""));
+    EXPECT_THAT(values(), ElementsAre("100.0%", "100.0%", "12.3%", "1.0%", ""));
 }
 
 TEST_F(ProcessRankingTest, ShowsNoMoreThanFive) {
@@ -70,6 +73,18 @@ TEST_F(ProcessRankingTest, RowsThatTieKeepTheirOrder) {
     EXPECT_THAT(values(), ElementsAre("—", "—", "—", "", ""));
 }
 
+TEST_F(ProcessRankingTest, ManyRowsThatTieKeepTheirOrderInEitherRanking) {
+    std::vector<ProcessUsage> rows;
+    for (int i = 1; i <= 100; ++i) {
+        rows.push_back({i, std::to_string(i), 1.0, 10});
+    }
+    rows.push_back({101, "first", 2.0, 20});
+    dashboard.updateProcesses(rows);
+    EXPECT_THAT(names(), ElementsAre("first", "1", "2", "3", "4"));
+    sort().click(1);
+    EXPECT_THAT(names(), ElementsAre("first", "1", "2", "3", "4"));
+}
+
 TEST_F(ProcessRankingTest, SwitchingToMemoryRanksTheRowsAlreadyHeld) {
     dashboard.updateProcesses({{1, "a", 50.0, 10}, {2, "b", {}, 30}, {3, "c", 1.0, 20}});
     sort().click(1);
@@ -79,15 +94,18 @@ TEST_F(ProcessRankingTest, SwitchingToMemoryRanksTheRowsAlreadyHeld) {
     EXPECT_THAT(names(), ElementsAre("a", "c", "b", "", ""));
 }
 
-TEST_F(ProcessRankingTest, NoSelectionRanksByCPU) {
-    sort().selected = -1;
-    dashboard.updateProcesses({{1, "a", 1.0, 20}, {2, "b", 2.0, 10}});
-    EXPECT_THAT(names(), ElementsAre("b", "a", "", "", ""));
+TEST_F(ProcessRankingTest, AnyOtherSegmentOrNoneRanksByCPU) {
+    for (const int segment : {-1, 2}) {
+        sort().selected = segment;
+        dashboard.updateProcesses({{1, "a", 1.0, 20}, {2, "b", 2.0, 10}});
+        EXPECT_THAT(names(), ElementsAre("b", "a", "", "", ""));
+    }
 }
 
 TEST_F(ProcessRankingTest, AFootprintBeyondTheFormatterIsCut) {
     sort().selected = 1;
-    dashboard.updateProcesses({{1, "a", {}, ~0ULL}});
+    dashboard.updateProcesses({{1, "small", {}, 1}, {2, "large", {}, ~0ULL}});
+    EXPECT_EQ(names()[0], "large");
     EXPECT_EQ(values()[0], "9223372036854775807 bytes");
 }
 
@@ -103,6 +121,15 @@ TEST_F(ProcessRankingTest, TheToolTipNamesThePidAndOutlivesItsRow) {
 TEST_F(ProcessRankingDeathTest, RankingBeforeTheViewWasBuiltStopsTheProgram) {
     Dashboard early(platform.application, platform.texts);
     EXPECT_DEATH(early.sortProcesses(), "^$");
+}
+
+TEST_F(ProcessRankingDeathTest, RankingIntoTooFewLabelsStopsTheProgram) {
+    auto name = std::move(dashboard.processNames.back());
+    dashboard.processNames.pop_back();
+    EXPECT_EXIT(dashboard.sortProcesses(), testing::KilledBySignal(SIGABRT), "^$");
+    dashboard.processNames.push_back(std::move(name));
+    dashboard.processValues.pop_back();
+    EXPECT_EXIT(dashboard.sortProcesses(), testing::KilledBySignal(SIGABRT), "^$");
 }
 
 }  // namespace

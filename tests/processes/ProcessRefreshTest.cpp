@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "app/ControllerTest.h"
 
 namespace zephrine {
@@ -25,6 +27,15 @@ protected:
     bool isInFlight() { return controller->processTask != nullptr; }
 };
 
+using ProcessRefreshDeathTest = ProcessRefreshTest;
+
+TEST_F(ProcessRefreshDeathTest, AGenerationBeyondTheLastStopsTheProgram) {
+    launch();
+    controller->processGeneration = std::numeric_limits<std::int64_t>::max();
+    EXPECT_DEATH(controller->startProcessUpdates(), "^$");
+    EXPECT_DEATH(controller->popoverDidClose(), "^$");
+}
+
 TEST_F(ProcessRefreshTest, IsStoppedUntilThePanelOpens) {
     launch();
     EXPECT_FALSE(isRunning());
@@ -41,6 +52,14 @@ TEST_F(ProcessRefreshTest, OpeningStartsACaptureAtOnceAndATwoSecondTimer) {
     ASSERT_TRUE(isRunning());
     EXPECT_EQ(loop().timers.back().interval, 2.0);
     EXPECT_EQ(loop().timers.back().tolerance, 0.0);
+}
+
+TEST_F(ProcessRefreshTest, StartingAgainRefreshesBeforeItReplacesTheTimer) {
+    launch({"--show-dashboard"});
+    finishCapture();
+    calls().clear();
+    controller->openInspectionWindow();
+    EXPECT_TRUE(calls().inOrder({"perform", "invalidate", "scheduleTimer"}));
 }
 
 TEST_F(ProcessRefreshTest, TheFirstListHasNoSharesAndTheNextOneHas) {
@@ -61,8 +80,8 @@ TEST_F(ProcessRefreshTest, CountsTheProcessorsOfTheMoment) {
     launch({"--show-dashboard"});
     finishCapture();
     spend(40);
-    platform.host.processors = 2;
     loop().fire(2.0);
+    platform.host.processors = 2;
     finishCapture();
     EXPECT_EQ(firstValue(), "20.0%");
 }
@@ -79,9 +98,9 @@ TEST_F(ProcessRefreshTest, CapturesNeverOverlap) {
 
 TEST_F(ProcessRefreshTest, TheCaptureRunsOnTheWorkerAndComesBackToTheMainThread) {
     launch({"--show-dashboard"});
-    EXPECT_TRUE(platform.table.calls.empty());
+    EXPECT_FALSE(calls().has("proc_listallpids"));
     worker().release();
-    EXPECT_FALSE(platform.table.calls.empty());
+    EXPECT_TRUE(calls().has("proc_listallpids"));
     EXPECT_TRUE(isInFlight());
     EXPECT_EQ(firstName(), "Measuring…");
     loop().drain();
@@ -167,8 +186,12 @@ TEST_F(ProcessRefreshTest, TicksOfAClosedInspectionWindowDoNothing) {
     EXPECT_EQ(worker().jobs.size(), 1U);
 }
 
-TEST_F(ProcessRefreshTest, BothLaunchOptionsTogetherStallTheListUntilThePanelCloses) {
-    launch({"--show-dashboard", "--inspect"});
+TEST_F(ProcessRefreshTest, BothHostsTogetherStallTheListUntilThePanelCloses) {
+    launch({"--show-dashboard"});
+    calls().clear();
+    controller->openInspectionWindow();
+    EXPECT_TRUE(calls().inOrder({"invalidate", "scheduleTimer"}));
+    EXPECT_EQ(loop().timers.size(), 2U) << "of the refreshes and of the list";
     EXPECT_EQ(worker().jobs.size(), 1U);
     finishCapture();  // of the generation before: stale
     EXPECT_TRUE(isInFlight());

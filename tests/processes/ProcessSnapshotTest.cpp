@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <iostream>
+
 #include "fakes/FakeProcessTable.h"
 
 namespace zephrine {
@@ -34,6 +36,11 @@ TEST(ProcessUsage, IsTheShareOfAllCores) {
     EXPECT_EQ(share(reading(24000000, 240000000), reading(48000000, 264000000), 10), 10.0);
 }
 
+TEST(ProcessUsage, DividesByTheTimeThenByTheCoresAndMultipliesLast) {
+    // Every other order of these operations gives 1.1111111111111112.
+    EXPECT_EQ(share(reading(0, 0), reading(1, 9), 10), 1.111111111111111);
+}
+
 TEST(ProcessUsage, CarriesPidNameAndMemoryOfTheCurrentReading) {
     const auto rows = snapshot(reading(0, 10)).usage(std::nullopt, 4);
     EXPECT_THAT(rows,
@@ -61,6 +68,10 @@ TEST(ProcessUsage, IsAbsentWhenTheCPUTimeWentBack) {
 TEST(ProcessUsage, IsAbsentWithoutCores) {
     EXPECT_EQ(share(reading(5, 10), reading(6, 20), 0), std::nullopt);
     EXPECT_EQ(share(reading(5, 10), reading(6, 20), -1), std::nullopt);
+}
+
+TEST(ProcessUsage, OfASingleCoreIsTheShareOfThatCore) {
+    EXPECT_EQ(share(reading(5, 10), reading(10, 20), 1), 50.0);
 }
 
 TEST(ProcessUsage, IsCappedAtTheWholeMachine) {
@@ -106,7 +117,9 @@ TEST(ProcessCapture, LooksAtTheClockRightAfterTheUsage) {
     FakeProcessTable table;
     table.processes[7];
     ProcessSnapshot::capture(table);
-    EXPECT_THAT(table.calls, ElementsAre("count", "list", "usage", "clock", "name"));
+    EXPECT_THAT(table.calls.all(),
+                ElementsAre("proc_listallpids", "proc_listallpids", "proc_pid_rusage",
+                            "mach_absolute_time", "proc_name"));
 }
 
 TEST(ProcessCapture, AddsUserAndSystemTimeWithWrapAround) {
@@ -128,8 +141,30 @@ TEST(ProcessCapture, LeavesRoomForProcessesThatStartMeanwhile) {
 TEST(ProcessCaptureDeathTest, StopsBeforeAListThatNoMachineHas) {
     FakeProcessTable table;
     table.reportedCount = (1 << 29) - 128;
-    EXPECT_DEATH(ProcessSnapshot::capture(table), "");
-    EXPECT_EQ(table.bufferSize, 0U);
+    const auto echoing = [&table] {
+        table.calls.echoTo(std::cerr);
+        ProcessSnapshot::capture(table);
+    };
+    EXPECT_DEATH(echoing(), "^proc_listallpids\n$") << "the list itself is not asked for";
+}
+
+TEST(ProcessCapture, IsEmptyWhenTheListCannotBeRead) {
+    FakeProcessTable table;
+    table.processes[7];
+    table.reportedWritten = -1;
+    EXPECT_TRUE(ProcessSnapshot::capture(table).processes.empty());
+}
+
+TEST(ProcessCapture, ReadsNoMorePidsThanWereWrittenNorThanFit) {
+    FakeProcessTable table;
+    table.processes[1];  // what a slot that nobody wrote must not be taken for
+    table.processes[7];
+    table.processes[8];
+    table.listing = {7, 8};
+    table.reportedWritten = 1;
+    EXPECT_EQ(ProcessSnapshot::capture(table).processes.size(), 1U);
+    table.reportedWritten = 1000000;
+    EXPECT_EQ(ProcessSnapshot::capture(table).processes.size(), 2U);
 }
 
 TEST(ProcessCapture, SkipsPidsBelowOneAndUnreadableProcesses) {
@@ -141,6 +176,9 @@ TEST(ProcessCapture, SkipsPidsBelowOneAndUnreadableProcesses) {
     const auto captured = ProcessSnapshot::capture(table);
     EXPECT_EQ(captured.processes.size(), 1U);
     EXPECT_TRUE(captured.processes.contains(8));
+    EXPECT_THAT(table.calls.all(),
+                ElementsAre("proc_listallpids", "proc_listallpids", "proc_pid_rusage",
+                            "proc_pid_rusage", "mach_absolute_time", "proc_name"));
 }
 
 TEST(ProcessCapture, KeepsTheLaterReadingOfAPidThatIsListedTwice) {
@@ -154,9 +192,11 @@ TEST(ProcessCapture, NamesAProcessWithoutANameByItsPid) {
     FakeProcessTable table;
     table.processes[312].name = std::nullopt;
     table.processes[313].name = "";
+    table.processes[314].name = "X";
     const auto captured = ProcessSnapshot::capture(table);
     EXPECT_EQ(captured.processes.at(312).name, "Process 312");
     EXPECT_EQ(captured.processes.at(313).name, "Process 313");
+    EXPECT_EQ(captured.processes.at(314).name, "X");
 }
 
 TEST(ProcessCapture, RepairsNamesButDoesNotTrimThem) {

@@ -13,6 +13,11 @@ TEST(CPUTicks, GivesTheShareOfTicksThatWereNotIdle) {
     EXPECT_EQ(later.usage(start), 30.0);
 }
 
+TEST(CPUTicks, DividesBeforeItMultiplies) {
+    // Every other order of these operations gives 33.333333333333336.
+    EXPECT_EQ((CPUTicks{.user = 1, .idle = 2}).usage({}), 33.33333333333333);
+}
+
 TEST(CPUTicks, GivesNoUsageWhenNoTickElapsed) {
     EXPECT_EQ(start.usage(start), std::nullopt);
 }

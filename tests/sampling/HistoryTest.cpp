@@ -55,10 +55,23 @@ TEST(History, MeasuresAgeFromTheSampleAppendedLast) {
     EXPECT_EQ(history.samples[2].time, 801.0);
 }
 
-TEST(History, StoresAbsentValuesAsAbsent) {
+TEST(History, DropsByAgeBeforeItDropsByCount) {
+    History history;
+    history.samples.assign(601, at(1000));
+    history.samples[300] = at(699);
+    history.append(at(1000));
+    EXPECT_EQ(history.samples, std::vector<HistorySample>(601, at(1000)));
+}
+
+TEST(History, StoresAbsentValuesAsAbsentAndKeepsThemAsLong) {
     History history;
     history.append({.time = 1, .cpu = {}, .ram = {}, .gpu = {}});
     EXPECT_EQ(history.samples.front(), (HistorySample{.time = 1, .cpu = {}, .ram = {}, .gpu = {}}));
+    history.append({.time = 301, .cpu = {}, .ram = {}, .gpu = {}});
+    EXPECT_EQ(history.samples.size(), 2U);
+    history.append({.time = 302, .cpu = {}, .ram = {}, .gpu = {}});
+    ASSERT_EQ(history.samples.size(), 2U);
+    EXPECT_EQ(history.samples.front().time, 301.0);
 }
 
 }  // namespace

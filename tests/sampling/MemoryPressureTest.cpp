@@ -37,5 +37,11 @@ TEST(MemoryPressure, KnowsNoOtherNumbers) {
     }
 }
 
+TEST(MemoryPressureDeathTest, ALevelThatIsNoneStopsTheProgram) {
+    const auto none = static_cast<MemoryPressure>(3);
+    EXPECT_DEATH(static_cast<void>(title(none)), "^$");
+    EXPECT_DEATH(static_cast<void>(color(none)), "^$");
+}
+
 }  // namespace
 }  // namespace zephrine

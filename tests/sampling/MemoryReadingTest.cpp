@@ -41,14 +41,29 @@ TEST(MemoryReading, SumsPageCountsBeyond32Bits) {
                                 .wire_count = most,
                                 .compressor_page_count = most};
     EXPECT_EQ(MemoryReading::usedBytes(stats, 1, ~0ULL), 4ULL * most);
+    vm_statistics64 reclaimable = stats;
+    reclaimable.purgeable_count = most;
+    reclaimable.external_page_count = most;
+    EXPECT_EQ(MemoryReading::usedBytes(reclaimable, 1, ~0ULL), 2ULL * most);
+}
+
+TEST(MemoryReading, AllowsEveryProductThatFits) {
+    EXPECT_EQ(MemoryReading::usedBytes({.active_count = 1}, ~0ULL, ~0ULL), ~0ULL);
+    EXPECT_EQ(MemoryReading::usedBytes({}, ~0ULL, ~0ULL), 0U);
 }
 
 TEST(MemoryReadingDeathTest, StopsTheProgramWhenTheProductOverflows) {
     EXPECT_DEATH(MemoryReading::usedBytes(counts, 1ULL << 60U, large), "^$");
+    EXPECT_DEATH(MemoryReading::usedBytes({.active_count = 2}, 1ULL << 63U, large), "^$");
 }
 
 TEST(MemoryReading, TakesThePercentageOfTheTotal) {
     EXPECT_EQ((MemoryReading{.used = 1, .total = 4}).percent(), 25.0);
+}
+
+TEST(MemoryReading, DividesBeforeItMultiplies) {
+    // Every other order of these operations gives 33.333333333333336.
+    EXPECT_EQ((MemoryReading{.used = 1, .total = 3}).percent(), 33.33333333333333);
 }
 
 TEST(MemoryReading, DoesNotHideATotalOfZero) {

@@ -37,6 +37,17 @@ TEST_F(SamplerTest, EachCPUReadingMeasuresSinceTheOneBefore) {
     EXPECT_EQ(sampler.cpu(), 50.0);
 }
 
+TEST_F(SamplerTest, EveryCounterOfTheHostHasItsMeaning) {
+    const std::vector<std::pair<CPUState, double>> shares{
+        {CPU_STATE_USER, 100}, {CPU_STATE_SYSTEM, 100}, {CPU_STATE_IDLE, 0}, {CPU_STATE_NICE, 100}};
+    Sampler sampler(host, gpus);
+    sampler.cpu();
+    for (const auto& [state, share] : shares) {
+        host.ticks->at(state) += 10;
+        EXPECT_EQ(sampler.cpu(), share) << state;
+    }
+}
+
 TEST_F(SamplerTest, AReadingWithoutElapsedTicksStillMovesTheBaseline) {
     Sampler sampler(host, gpus);
     sampler.cpu();
@@ -83,13 +94,14 @@ TEST_F(SamplerTest, WithoutPhysicalMemoryNothingIsReadAtAll) {
     Sampler sampler(host, gpus);
     host.calls.clear();
     EXPECT_EQ(sampler.memory(), std::nullopt);
-    EXPECT_TRUE(host.calls.empty());
+    EXPECT_TRUE(host.calls.all().empty());
 }
 
 TEST_F(SamplerTest, MemoryIsAbsentWhenEitherReadingFails) {
     Sampler sampler(host, gpus);
     host.pageSize = std::nullopt;
     EXPECT_EQ(sampler.memory(), std::nullopt);
+    EXPECT_FALSE(host.calls.has("host_statistics64"));
     host.pageSize = 4096;
     host.statistics = std::nullopt;
     EXPECT_EQ(sampler.memory(), std::nullopt);
@@ -99,8 +111,10 @@ TEST_F(SamplerTest, PressureIsUnknownWhenItCannotBeReadOrIsNoLevel) {
     Sampler sampler(host, gpus);
     host.pressureLevel = 4;
     EXPECT_EQ(sampler.pressure(), MemoryPressure::critical);
-    host.pressureLevel = 3;
-    EXPECT_EQ(sampler.pressure(), MemoryPressure::unknown);
+    for (const std::int32_t level : {3, 5, -1, 0}) {
+        host.pressureLevel = level;
+        EXPECT_EQ(sampler.pressure(), MemoryPressure::unknown) << level;
+    }
     host.pressureLevel = std::nullopt;
     EXPECT_EQ(sampler.pressure(), MemoryPressure::unknown);
 }
@@ -114,9 +128,16 @@ TEST_F(SamplerTest, TheBusiestGPUIsReported) {
     EXPECT_EQ(gpus.lastKey, "PerformanceStatistics");
 }
 
+TEST_F(SamplerTest, OfEquallyBusyGPUsTheFirstIsReported) {
+    gpus.addUtilization(0.0);
+    gpus.addUtilization(-0.0);
+    EXPECT_FALSE(std::signbit(Sampler(host, gpus).gpu().value()));
+}
+
 TEST_F(SamplerTest, GPUValuesThatCannotBeTrueContributeNothing) {
     gpus.addUtilization(120.0);
-    gpus.addUtilization(-1.0);
+    gpus.addUtilization(100.1);
+    gpus.addUtilization(-0.1);
     gpus.addUtilization(std::numeric_limits<double>::infinity());
     gpus.addUtilization(std::nan(""));
     gpus.addUtilization(std::string("50"));
@@ -162,6 +183,8 @@ TEST_F(SamplerTest, EveryGPUHandleIsReleased) {
         EXPECT_EQ(gpus.services[0].references, 1);
     }
     EXPECT_EQ(gpus.services[0].references, 0);
+    EXPECT_TRUE(gpus.calls.inOrder({"IOServiceGetMatchingServices", "IOObjectRelease",
+                                    "IOServiceGetMatchingServices", "IOObjectRelease"}));
 }
 
 TEST_F(SamplerTest, AFailedDiscoveryLeavesNoGPU) {
@@ -182,8 +205,9 @@ TEST_F(SamplerTest, OneRoundOfReadingsCostsOneCallPerCounterAndService) {
     sampler.memory();
     sampler.gpu();
     sampler.pressure();
-    EXPECT_THAT(host.calls, ElementsAre("host_statistics", "host_page_size", "host_statistics64",
-                                        "memorystatus_vm_pressure_level"));
+    EXPECT_THAT(host.calls.all(),
+                ElementsAre("host_statistics", "host_page_size", "host_statistics64",
+                            "memorystatus_vm_pressure_level"));
     EXPECT_EQ(gpus.propertyReads, 2);
 }
 

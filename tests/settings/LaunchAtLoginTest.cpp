@@ -71,9 +71,26 @@ TEST_F(LaunchAtLoginTest, AnEnabledItemIsNotRegisteredAgain) {
     EXPECT_EQ(line(), "Ready when you sign in.");
 }
 
+TEST_F(LaunchAtLoginTest, AnItemThatWasEnabledMeanwhileIsShownSo) {
+    open();
+    platform.login.current = LoginItemStatus::enabled;
+    controller->setLogin(true);
+    EXPECT_EQ(platform.login.registrations, 0);
+    EXPECT_TRUE(box().on);
+    EXPECT_EQ(line(), "Ready when you sign in.");
+}
+
 TEST_F(LaunchAtLoginTest, UnregisteringAsksTheSystemWhateverTheStatus) {
     open();
+    calls().clear();
     controller->setLogin(false);
+    EXPECT_TRUE(calls().inOrder({"unregisterItem", "status"}));
+}
+
+TEST_F(LaunchAtLoginTest, WithoutABoxTheBoxIsNotTicked) {
+    launch();
+    controller->loginChanged();
+    EXPECT_EQ(platform.login.registrations, 0);
     EXPECT_EQ(platform.login.unregistrations, 1);
 }
 
@@ -87,6 +104,17 @@ TEST_F(LaunchAtLoginTest, AFailureSnapsTheBoxBackBeforeTheAlertAppears) {
     ASSERT_EQ(alerts().size(), 1U);
     EXPECT_EQ(alerts()[0].messageText, "Couldn’t update launch at login");
     EXPECT_EQ(alerts()[0].informativeText, "Read-only file system");
+}
+
+TEST_F(LaunchAtLoginTest, AFailureToUnregisterShowsTheAlertToo) {
+    platform.login.current = LoginItemStatus::enabled;
+    platform.login.error = "Operation not permitted";
+    open();
+    box().click();
+    EXPECT_TRUE(box().on);
+    ASSERT_EQ(alerts().size(), 1U);
+    EXPECT_EQ(alerts()[0].messageText, "Couldn’t update launch at login");
+    EXPECT_EQ(alerts()[0].informativeText, "Operation not permitted");
 }
 
 TEST_F(LaunchAtLoginTest, TheLaunchOptionRegistersWithoutAWindow) {

@@ -18,6 +18,8 @@ struct SettingsElement {
     Color color = Color::labelColor;
     std::vector<std::string> items = {};  ///< a pop-up button's
     std::string accessibilityLabel = {};
+    TextAlignment alignment = TextAlignment::natural;
+    LineBreakMode lineBreakMode = LineBreakMode::clipping;
 };
 
 inline std::vector<SettingsElement> settingsTable(

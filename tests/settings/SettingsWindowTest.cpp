@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "app/ControllerTest.h"
 #include "platform/qt/DesktopVocabulary.h"
 #include "settings/SettingsTable.h"
@@ -48,6 +50,8 @@ TEST_F(SettingsWindowTest, HoldsItsControlsInOrderWithTheirFramesAndTexts) {
         if (const auto* label = dynamic_cast<FakeLabel*>(children[i])) {
             EXPECT_EQ(label->font, table[i].font);
             EXPECT_EQ(label->color, table[i].color);
+            EXPECT_EQ(label->alignment, table[i].alignment);
+            EXPECT_EQ(label->lineBreakMode, table[i].lineBreakMode);
         }
         if (const auto* box = dynamic_cast<FakeCheckBox*>(children[i])) {
             EXPECT_EQ(box->title, table[i].text);
@@ -64,6 +68,12 @@ TEST_F(SettingsWindowTest, CallsTheBarWhatItsSystemDoes) {
     const auto& children = fake<FakeView>(*window().content).children;
     EXPECT_EQ(fake<FakeLabel>(*children[5]).text, "Panel text");
     EXPECT_EQ(children[6]->accessibilityLabel, "Panel text");
+}
+
+TEST_F(SettingsWindowTest, IsBuiltWithAnEmptyStatusLineAndOffScreen) {
+    const SettingsWindow built(application());
+    EXPECT_EQ(text(built.loginStatus), "");
+    EXPECT_FALSE(window().visible);
 }
 
 TEST_F(SettingsWindowTest, OpensOnTheStoredChoices) {
@@ -96,6 +106,22 @@ TEST_F(SettingsWindowTest, TheRAMDisplayIsStoredAndShownAtOnce) {
     EXPECT_EQ(controller->lastImageKey, "  — - 25%-9.0-1-false");
     ramDisplay().choose(-1);
     EXPECT_EQ(stored("ramInGB"), FakePreferenceStore::Value(false));
+}
+
+TEST_F(SettingsWindowTest, AnyItemButTheSecondStoresAPercentage) {
+    open();
+    for (const int item : {-1, 0, 2}) {
+        platform.store.setBool(true, "ramInGB");
+        ramDisplay().choose(item);
+        EXPECT_EQ(stored("ramInGB"), FakePreferenceStore::Value(false)) << item;
+    }
+}
+
+TEST_F(SettingsWindowTest, ChoosingTheSameRAMDisplayAgainStillDraws) {
+    open();
+    const int images = button().imagesSet;
+    ramDisplay().choose(0);
+    EXPECT_EQ(button().imagesSet, images + 1);
 }
 
 TEST_F(SettingsWindowTest, TheTextSizeIsStoredInItsFormAndShownAtOnce) {
@@ -143,8 +169,9 @@ TEST_F(SettingsWindowTest, IsBuiltOnceAndShownAgainWhereTheUserPutIt) {
     controller->openSettings();
     EXPECT_EQ(application().windowFactory.windows.size(), 1U);
     EXPECT_TRUE(window().visible);
-    EXPECT_EQ(window().calls,
-              (std::vector<std::string>{"center", "makeKeyAndOrderFront", "makeKeyAndOrderFront"}));
+    EXPECT_TRUE(
+        calls().inOrder({"center Zephrine Settings", "makeKeyAndOrderFront Zephrine Settings",
+                         "makeKeyAndOrderFront Zephrine Settings"}));
     EXPECT_EQ(application().activations, 2);
     EXPECT_EQ(interval().selected, 1);
 }
@@ -156,10 +183,37 @@ TEST_F(SettingsWindowTest, ClosesThePopover) {
     EXPECT_EQ(controller->processTimer, nullptr);
 }
 
+TEST_F(SettingsWindowTest, ClosesThePopoverThenShowsTheStatusThenComesToTheFront) {
+    launch();
+    calls().clear();
+    controller->openSettings();
+    EXPECT_TRUE(
+        calls().inOrder({"performClose", "center Zephrine Settings", "status",
+                         "activateIgnoringOtherApps", "makeKeyAndOrderFront Zephrine Settings"}));
+}
+
+/// The "Settings…" button of a dashboard.
+FakeButton& settingsButton(Dashboard& dashboard) {
+    const auto& children = fake<FakeView>(dashboard.view()).children;
+    const auto found = std::find_if(children.begin(), children.end(), [](FakeView* child) {
+        const auto* button = dynamic_cast<FakeButton*>(child);
+        return button != nullptr && button->title == "Settings…";
+    });
+    return fake<FakeButton>(**found);
+}
+
 TEST_F(SettingsWindowTest, OpensFromTheDashboardsButton) {
     launch();
-    controller->dashboard->openSettings();
+    settingsButton(*controller->dashboard).press();
     EXPECT_TRUE(window().visible);
+}
+
+TEST_F(SettingsWindowTest, DoesNotOpenOnceTheControllerIsGone) {
+    launch();
+    const auto dashboard = controller->dashboard;
+    controller.reset();
+    settingsButton(*dashboard).press();
+    EXPECT_TRUE(application().windowFactory.windows.empty());
 }
 
 TEST_F(SettingsWindowTest, OpensAtLaunchWhenAskedTo) {

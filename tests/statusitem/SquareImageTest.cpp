@@ -62,6 +62,18 @@ TEST_F(SquareImageTest, KeepsEveryFigureInsideTheSquareAndClearOfTheDot) {
     }
 }
 
+TEST_F(SquareImageTest, GivesEachLineHalfOfTheHeightAndTheDotTheCorner) {
+    const auto context = drawn(22);  // gaps of one point, lines of 9.5
+    const double size = 9.5 / 0.73;
+    const double overhang = (9.5 - size * 1.2) / 2;  // of a line's box over its digits
+    EXPECT_EQ(context.texts[0].font,
+              (Font{FontFamily::monospacedDigit, size, FontWeight::semibold}));
+    EXPECT_EQ(context.texts[0].origin, (Point{1, 11.5 + overhang}));
+    EXPECT_EQ(context.texts[1].font, context.texts[0].font);
+    EXPECT_EQ(context.texts[1].origin, (Point{1, 1 + overhang}));
+    EXPECT_EQ(context.ovals[0].rect, (Rect{18, 1, 4, 4}));
+}
+
 TEST_F(SquareImageTest, OneDigitIsAsLargeAsTwo) {
     content.cpuText = "  5%";
     const Font one = drawn(22).texts[0].font;
@@ -75,6 +87,9 @@ TEST_F(SquareImageTest, ShowsTwoBarsWhereDigitsWouldBeTooSmall) {
     ASSERT_EQ(context.rects.size(), 4U);
     const Rect cpuTrack = context.rects[0].rect;
     const Rect cpuBar = context.rects[1].rect;
+    EXPECT_EQ(cpuTrack, (Rect{1, 1, 4, 14}));
+    EXPECT_EQ(context.rects[2].rect, (Rect{6, 1, 4, 14}));
+    EXPECT_EQ(context.ovals[0].rect, (Rect{11, 1, 5, 5}));
     EXPECT_DOUBLE_EQ(cpuBar.height, cpuTrack.height * 0.12);
     EXPECT_EQ(context.rects[1].color, Color::black);
     EXPECT_DOUBLE_EQ(context.rects[3].rect.height, context.rects[2].rect.height * 0.63);

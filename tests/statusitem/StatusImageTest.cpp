@@ -51,6 +51,11 @@ TEST(StatusImage, DrawsTheTwoLinesInMonospacedMedium) {
     EXPECT_EQ(context.texts[1].font, font);
 }
 
+TEST(StatusImage, DrawsTheDotLast) {
+    EXPECT_TRUE(drawn(statusImage(content(false), FakeTextMeasure()))
+                    .calls.inOrder({"drawText CPU  12%", "drawText RAM  63%", "fillOval"}));
+}
+
 TEST(StatusImage, PutsTheDotIntoTheLowerRightCorner) {
     const Image image = statusImage(content(false), FakeTextMeasure());
     const auto context = drawn(image);

@@ -30,6 +30,72 @@ TEST_F(UpdateStatusItemTest, ShowsTheReadingsInPictureToolTipAndAccessibilityLab
     EXPECT_EQ(controller->lastImageKey, " 30%- 25%-9.0-1-false");
 }
 
+TEST_F(UpdateStatusItemTest, ComposesThenDescribesThenSetsTheLengthAndThePicture) {
+    launch();
+    calls().clear();
+    controller->updateStatusItem();
+    EXPECT_TRUE(calls().inOrder({"boolForKey ramInGB", "effectiveAppearance",
+                                 "doubleForKey fontSize", "setToolTip", "setAccessibilityLabel"}));
+    controller->lastImageKey.clear();
+    calls().clear();
+    controller->updateStatusItem();
+    EXPECT_TRUE(calls().inOrder({"setToolTip", "setAccessibilityLabel", "setLength", "setImage"}));
+}
+
+TEST_F(UpdateStatusItemTest, RemembersTheKeyBeforeItMakesThePicture) {
+    launch();
+    const std::string key = controller->lastImageKey;
+    controller->lastImageKey.clear();
+    std::string keyMeanwhile;
+    application().measure.whileMeasuring = [&] { keyMeanwhile = controller->lastImageKey; };
+    controller->updateStatusItem();
+    EXPECT_EQ(keyMeanwhile, key);
+}
+
+TEST_F(UpdateStatusItemTest, ADifferentReadingDrawsAgain) {
+    launch();
+    platform.host.pressureLevel = 2;
+    controller->refresh();
+    EXPECT_EQ(button().imagesSet, 2);
+    platform.host.advance(30, 70);
+    controller->refresh();
+    EXPECT_EQ(button().imagesSet, 3);
+    platform.host.setUsed(4ULL << 30U);
+    platform.host.advance(30, 70);
+    controller->refresh();
+    EXPECT_EQ(button().imagesSet, 4);
+}
+
+TEST_F(UpdateStatusItemTest, TheDotHasTheColorOfThePressure) {
+    const std::vector<std::pair<int, Color>> colors{{0, Color::secondaryLabelColor},
+                                                    {1, Color::systemGreenColor},
+                                                    {2, Color::systemOrangeColor},
+                                                    {4, Color::systemRedColor}};
+    launch();
+    for (const auto& [level, color] : colors) {
+        platform.host.pressureLevel = level;
+        controller->refresh();
+        EXPECT_EQ(drawn().ovals.at(0).color, color) << level;
+    }
+}
+
+TEST_F(UpdateStatusItemTest, AStoredTextSizeThatIsNotOfferedDrawsAtNinePoints) {
+    platform.store.setInteger(11, "fontSize");
+    launch();
+    EXPECT_EQ(controller->lastImageKey, "  — -  0%-9.0-1-false");
+    EXPECT_EQ(drawn().texts[0].font.size, 9);
+}
+
+TEST_F(UpdateStatusItemTest, TheGPUIsNotShown) {
+    launch();
+    const std::string description = button().toolTip;
+    platform.gpus.addUtilization(77.0);
+    application().didWake();
+    EXPECT_EQ(controller->latestGPU, 77.0);
+    EXPECT_EQ(button().toolTip, description);
+    EXPECT_EQ(button().imagesSet, 1);
+}
+
 TEST_F(UpdateStatusItemTest, GivesTheLinesOfThePictureAsTextToo) {
     launch();
     EXPECT_EQ(button().image.text, firstLine() + "\n" + secondLine());
@@ -105,14 +171,10 @@ TEST_F(UpdateStatusItemTest, ShowsGigabytesWhenTheUserWantsThem) {
 TEST_F(UpdateStatusItemTest, DoesNotAskForTheUnitWithoutAMemoryReading) {
     platform.host.statistics = std::nullopt;
     launch();
-    platform.store.reads = 0;
-    controller->updateStatusItem();
-    const int withoutMemory = platform.store.reads;
+    EXPECT_FALSE(calls().has("boolForKey ramInGB"));
     platform.host.statistics = vm_statistics64{};
     controller->refresh();
-    platform.store.reads = 0;
-    controller->updateStatusItem();
-    EXPECT_EQ(platform.store.reads, withoutMemory + 1);
+    EXPECT_TRUE(calls().has("boolForKey ramInGB"));
 }
 
 TEST_F(UpdateStatusItemTest, AnItemWithoutAButtonIsLeftAlone) {
