@@ -29,7 +29,7 @@ AppDelegate::AppDelegate(Platform& platform, Application& application,
 
 void AppDelegate::applicationDidFinishLaunching() {
     statusItem = application_.statusBar().statusItemWithLength(initialItemLength);
-    require(statusItem != nullptr);
+    trapUnless(statusItem != nullptr);
     statusItem->setAutosaveName("Zephrine");
     if (StatusItemButton* button = statusItem->button()) {
         button->setAction([this] { toggleDashboard(); });
@@ -46,20 +46,25 @@ void AppDelegate::applicationDidFinishLaunching() {
     resetTimer();
     refresh();
 
-    for (const std::string_view option : launchOptionsAmong(arguments_)) {
+    for (const LaunchOption option : launchOptionsAmong(arguments_)) {
         performLaunchOption(option);
     }
 }
 
-void AppDelegate::performLaunchOption(std::string_view option) {
-    if (option == "--enable-login") {
-        setLogin(true);
-    } else if (option == "--show-dashboard") {
-        showDashboard();
-    } else if (option == "--show-settings") {
-        openSettings();
-    } else if (option == "--inspect") {
-        openInspectionWindow();
+void AppDelegate::performLaunchOption(LaunchOption option) {
+    switch (option) {
+        case LaunchOption::enableLogin:
+            setLogin(true);
+            break;
+        case LaunchOption::showDashboard:
+            showDashboard();
+            break;
+        case LaunchOption::showSettings:
+            openSettings();
+            break;
+        case LaunchOption::inspect:
+            openInspectionWindow();
+            break;
     }
 }
 

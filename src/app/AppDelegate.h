@@ -7,7 +7,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "dashboard/Dashboard.h"
@@ -38,7 +37,7 @@ public:
 
     // Launch, refresh, wake-up, appearance: AppDelegate.cpp
     void applicationDidFinishLaunching() override;
-    void performLaunchOption(std::string_view option) override;
+    void performLaunchOption(LaunchOption option) override;
     void resetTimer();
     void refresh();
     void wokeUp();

@@ -17,7 +17,7 @@ void AppDelegate::toggleDashboard() {
 }
 
 void AppDelegate::showDashboard() {
-    require(statusItem != nullptr);
+    trapUnless(statusItem != nullptr);
     StatusItemButton* button = statusItem->button();
     if (button == nullptr || popover->isShown()) {
         return;
@@ -67,7 +67,7 @@ void AppDelegate::updateDashboard() {
 }
 
 void AppDelegate::advanceProcessGeneration() {
-    require(processGeneration < std::numeric_limits<std::int64_t>::max());
+    trapUnless(processGeneration < std::numeric_limits<std::int64_t>::max());
     ++processGeneration;
 }
 

@@ -24,7 +24,7 @@ double NumberPreference::value(const PreferenceStore& store) const {
 }
 
 void NumberPreference::choose(int index, PreferenceStore& store) const {
-    require(index >= 0 && static_cast<std::size_t>(index) < options.size());
+    trapUnless(index >= 0 && static_cast<std::size_t>(index) < options.size());
     const auto& stored = options[static_cast<std::size_t>(index)].stored;
     if (const auto* integer = std::get_if<std::int64_t>(&stored)) {
         store.setInteger(*integer, key);

@@ -98,7 +98,7 @@ constexpr std::array<FixedCheck, 10> checks{{
 
 LiveReadings takeLiveReadings(const SelfCheckEnvironment& environment) {
     const auto snapshot = ProcessSnapshot::capture(environment.processTable);
-    require(snapshot.processes.contains(environment.processTable.getpid()));
+    trapUnless(snapshot.processes.contains(environment.processTable.getpid()));
 
     Sampler sampler(environment.host, environment.gpuRegistry);
     sampler.cpu();  // Only sets the baseline.
@@ -126,7 +126,7 @@ void reportLiveReadings(const LiveReadings& readings, std::ostream& output) {
     output << "GPU: " << (gpu ? decimal(*gpu, 0) + "%" : "unavailable")
            << "; memory pressure: " << title(pressure)
            << "; readable processes: " << std::to_string(processCount) << std::endl;
-    require(cpu >= 0 && cpu <= 100 && memory.used <= memory.total);
+    trapUnless(cpu >= 0 && cpu <= 100 && memory.used <= memory.total);
     output << "Checks passed. Live CPU: " << decimal(cpu, 1)
            << "%, RAM: " << decimal(memory.percent(), 1) << "% ("
            << decimal(memory.usedGigabytes(), 1) << " / " << decimal(memory.totalGigabytes(), 1)
@@ -135,7 +135,7 @@ void reportLiveReadings(const LiveReadings& readings, std::ostream& output) {
 
 void selfCheck(const SelfCheckEnvironment& environment) {
     for (const FixedCheck& check : environment.checks) {
-        require(check.holds());
+        trapUnless(check.holds());
     }
     reportLiveReadings(takeLiveReadings(environment), environment.output);
 }

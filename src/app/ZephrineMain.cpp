@@ -6,6 +6,7 @@
 #include <iostream>
 #include <memory>
 #include <thread>
+#include <variant>
 
 #include "app/AppDelegate.h"
 #include "app/SelfCheck.h"
@@ -32,15 +33,15 @@ void printLoginStatus(Platform& platform) {
 }
 
 int runApplication(Platform& platform, const std::vector<std::string>& arguments) {
-    std::string whyNot;
-    Application* application = platform.sharedApplication(whyNot);
-    if (application == nullptr && whyNot.empty()) {
-        return 0;  // the program that runs already does what was asked for
-    }
-    if (application == nullptr) {
-        std::cerr << "zephrine: " << whyNot << '\n';
+    const auto connection = platform.sharedApplication();
+    if (const auto* none = std::get_if<NoDesktop>(&connection)) {
+        std::cerr << "zephrine: " << none->reason << '\n';
         return 1;
     }
+    if (std::holds_alternative<RunsAlready>(connection)) {
+        return 0;
+    }
+    Application* const application = std::get<Application*>(connection);
     const auto controller = std::make_shared<AppDelegate>(platform, *application, arguments);
     application->setDelegate(*controller);
     application->setAccessoryActivationPolicy();

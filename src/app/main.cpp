@@ -7,6 +7,6 @@
 
 int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv, argv + argc);
-    const auto platform = zephrine::makePlatform(argc, argv);
+    const auto platform = zephrine::makePlatform(arguments);
     return zephrine::ZephrineMain::main(*platform, arguments);
 }

@@ -116,7 +116,7 @@ void Dashboard::addGraph() {
 void Dashboard::addProcessList() {
     addText({20, 255, 170, 22}, "Top processes", semibold(13), Color::labelColor);
     processSort = widgets_.makeSegmentedControl({"CPU", "RAM"});
-    require(processSort != nullptr);
+    trapUnless(processSort != nullptr);
     processSort->setFrame({235, 254, 106, 24});
     processSort->setSelectedSegment(0);
     processSort->setAction([this] { sortProcesses(); });

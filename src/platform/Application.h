@@ -6,7 +6,6 @@
 #pragma once
 
 #include <functional>
-#include <string_view>
 
 #include "platform/LaunchOptions.h"
 #include "platform/RunLoop.h"
@@ -25,8 +24,8 @@ public:
     virtual void applicationDidFinishLaunching() = 0;
     /// Called when the running program is opened again. True asks the system to act as well.
     virtual bool applicationShouldHandleReopen(bool hasVisibleWindows) = 0;
-    /// Called when the running program is started again with `option`, one of `launchOptions`.
-    virtual void performLaunchOption(std::string_view option) = 0;
+    /// Called when the running program is started again with `option`.
+    virtual void performLaunchOption(LaunchOption option) = 0;
 };
 
 class Application {

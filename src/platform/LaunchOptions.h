@@ -5,25 +5,48 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zephrine {
 
-/// In the order in which they are acted on.
-inline constexpr std::array<std::string_view, 4> launchOptions{"--enable-login", "--show-dashboard",
-                                                               "--show-settings", "--inspect"};
+enum class LaunchOption { enableLogin, showDashboard, showSettings, inspect };
 
-/// Those of them that are among `arguments`, each once and in their order.
-inline std::vector<std::string_view> launchOptionsAmong(const std::vector<std::string>& arguments) {
-    std::vector<std::string_view> present;
-    std::copy_if(launchOptions.begin(), launchOptions.end(), std::back_inserter(present),
-                 [&arguments](std::string_view option) {
-                     return std::find(arguments.begin(), arguments.end(), option) !=
-                            arguments.end();
-                 });
+struct LaunchOptionWord {
+    LaunchOption option;
+    std::string_view word;
+};
+
+/// In the order in which they are acted on, which is that of the enumeration.
+inline constexpr std::array<LaunchOptionWord, 4> launchOptionWords{{
+    {LaunchOption::enableLogin, "--enable-login"},
+    {LaunchOption::showDashboard, "--show-dashboard"},
+    {LaunchOption::showSettings, "--show-settings"},
+    {LaunchOption::inspect, "--inspect"},
+}};
+
+inline std::string_view wordOf(LaunchOption option) {
+    return launchOptionWords.at(static_cast<std::size_t>(option)).word;
+}
+
+/// Absent for every other word.
+inline std::optional<LaunchOption> launchOptionOf(std::string_view word) {
+    const auto* const known =
+        std::find_if(launchOptionWords.begin(), launchOptionWords.end(),
+                     [word](const LaunchOptionWord& entry) { return entry.word == word; });
+    return known == launchOptionWords.end() ? std::nullopt : std::optional(known->option);
+}
+
+/// Those that are among `arguments`, each once and in their order.
+inline std::vector<LaunchOption> launchOptionsAmong(const std::vector<std::string>& arguments) {
+    std::vector<LaunchOption> present;
+    for (const auto& [option, word] : launchOptionWords) {
+        if (std::find(arguments.begin(), arguments.end(), word) != arguments.end()) {
+            present.push_back(option);
+        }
+    }
     return present;
 }
 

@@ -14,7 +14,7 @@ namespace zephrine {
 class MainThread {
 public:
     /// Ends the process on any other thread than the remembered one.
-    void requireCurrent() const noexcept { require(std::this_thread::get_id() == id_); }
+    void requireCurrent() const noexcept { trapUnless(std::this_thread::get_id() == id_); }
 
 private:
     std::thread::id id_ = std::this_thread::get_id();

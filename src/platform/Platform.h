@@ -5,6 +5,8 @@
 
 #include <memory>
 #include <string>
+#include <variant>
+#include <vector>
 
 #include "platform/Application.h"
 #include "platform/Formatting.h"
@@ -15,6 +17,14 @@
 #include "platform/ProcessTable.h"
 
 namespace zephrine {
+
+/// Why there is no application object.
+struct NoDesktop {
+    std::string reason;  ///< one line
+};
+/// The program runs on this desktop already, and was told what this start asks for: nothing is left
+/// to do.
+struct RunsAlready {};
 
 /// Hands out the services, each made at its first use: asking for counters or for the login status
 /// opens no connection to a display or a bus. What it hands out lives as long as it does.
@@ -29,13 +39,11 @@ public:
     virtual LoginItem& loginItem() = 0;
     virtual Formatting& formatting() = 0;
 
-    /// Connects to the desktop. Null when there is none, with the reason, one line, in `whyNot`.
-    /// Null without a reason when the program runs there already and was told what this start asks
-    /// for: then nothing is left to do.
-    virtual Application* sharedApplication(std::string& whyNot) = 0;
+    /// Connects to the desktop. The application is never null.
+    virtual std::variant<Application*, NoDesktop, RunsAlready> sharedApplication() = 0;
 };
 
-/// `argc` and `argv` are those of `main` and outlive the platform.
-std::unique_ptr<Platform> makePlatform(int& argc, char** argv);
+/// `arguments` are the program's, its own path first.
+std::unique_ptr<Platform> makePlatform(std::vector<std::string> arguments);
 
 }  // namespace zephrine

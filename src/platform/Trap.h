@@ -12,7 +12,7 @@ namespace zephrine {
 }
 
 /// Ends the process unless `condition` holds.
-inline void require(bool condition) noexcept {
+inline void trapUnless(bool condition) noexcept {
     if (!condition) {
         trap();
     }

@@ -43,8 +43,8 @@ void Dashboard::updateProcesses(std::vector<ProcessUsage> rows) {
 
 void Dashboard::sortProcesses() {
     mainThread_.requireCurrent();
-    require(processSort != nullptr && processNames.size() >= processRowCount &&
-            processValues.size() >= processRowCount);
+    trapUnless(processSort != nullptr && processNames.size() >= processRowCount &&
+               processValues.size() >= processRowCount);
     const bool byMemory = processSort->selectedSegment() == memorySegment;
     std::vector<ProcessUsage> sorted = processRows;
     std::stable_sort(sorted.begin(), sorted.end(), byMemory ? usesMoreMemory : usesMoreCPU);

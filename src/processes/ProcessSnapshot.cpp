@@ -22,7 +22,7 @@ constexpr std::size_t maximumCapacity = std::size_t{1} << 29U;
 std::vector<std::int32_t> listPids(ProcessTable& table) {
     const int count = std::max(table.proc_listallpids({}), 0);
     const std::size_t capacity = static_cast<std::size_t>(count) + slack;
-    require(capacity < maximumCapacity);
+    trapUnless(capacity < maximumCapacity);
     std::vector<std::int32_t> pids(capacity, 0);
     const int written = std::max(table.proc_listallpids(pids), 0);
     pids.resize(std::min(static_cast<std::size_t>(written), capacity));

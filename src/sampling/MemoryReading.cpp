@@ -27,7 +27,7 @@ std::uint64_t MemoryReading::usedBytes(const vm_statistics64& stats, std::uint64
     const std::uint64_t reclaimable =
         std::uint64_t{stats.purgeable_count} + stats.external_page_count;
     const std::uint64_t pages = counted > reclaimable ? counted - reclaimable : 0;
-    require(pages == 0 || pageSize <= std::numeric_limits<std::uint64_t>::max() / pages);
+    trapUnless(pages == 0 || pageSize <= std::numeric_limits<std::uint64_t>::max() / pages);
     return std::min(pages * pageSize, total);
 }
 

@@ -17,7 +17,7 @@ constexpr double itemPadding = 12;
 
 void AppDelegate::updateStatusItem() {
     mainThread_.requireCurrent();
-    require(statusItem != nullptr);
+    trapUnless(statusItem != nullptr);
     StatusItemButton* button = statusItem->button();
     if (button == nullptr) {
         return;

@@ -32,13 +32,15 @@ public:
     PreferenceStore& preferenceStore() override { return store; }
     LoginItem& loginItem() override { return login; }
     Formatting& formatting() override { return texts; }
-    Application* sharedApplication(std::string& whyNot) override {
+    std::variant<Application*, NoDesktop, RunsAlready> sharedApplication() override {
         ++applicationsAskedFor;
         if (!hasDesktop) {
-            whyNot = "there is no desktop";
-            return nullptr;
+            return NoDesktop{"there is no desktop"};
         }
-        return runsAlready ? nullptr : &application;
+        if (runsAlready) {
+            return RunsAlready{};
+        }
+        return &application;
     }
 };
 

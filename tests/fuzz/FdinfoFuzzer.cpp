@@ -17,14 +17,14 @@ extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
     for (const std::string_view part : {text.substr(0, half), text.substr(half)}) {
         const auto client = zephrine::parseFdinfo(part, clock += 1'000'000'000);
         if (client) {
-            require(!client->id.empty());
+            trapUnless(!client->id.empty());
             for (const auto& engine : client->engines) {
-                require(engine.capacity >= 1);
+                trapUnless(engine.capacity >= 1);
             }
             load.add(*client);
         }
         const double percent = load.finishPass().value_or(0);
-        require(percent >= 0 && percent <= 100);
+        trapUnless(percent >= 0 && percent <= 100);
     }
     return 0;
 }

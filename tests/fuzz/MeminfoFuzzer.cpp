@@ -20,20 +20,20 @@ constexpr std::uint64_t kLargestExact = std::uint64_t{1} << 42U;
 void checkUsed(const Meminfo& memory) {
     const auto statistics = vmStatistics(memory, {}, kPageSize);
     const auto available = availableMemory(memory);
-    require(statistics.has_value() == available.has_value());
+    trapUnless(statistics.has_value() == available.has_value());
     if (!statistics) {
         return;
     }
     const std::uint64_t total = memory.memTotal.value_or(0);
-    require(*available <= total);
+    trapUnless(*available <= total);
     const std::uint64_t used = MemoryReading::usedBytes(*statistics, kPageSize, total);
-    require(used <= total);
-    require(total > kLargestExact || used == (total - *available) / kPageSize * kPageSize);
+    trapUnless(used <= total);
+    trapUnless(total > kLargestExact || used == (total - *available) / kPageSize * kPageSize);
 }
 
 void checkLevel(const Meminfo& memory) {
     const auto level = PressureLevel().update(memory, std::nullopt, 0);
-    require(!level || *level == 1 || *level == 2 || *level == 4);
+    trapUnless(!level || *level == 1 || *level == 2 || *level == 4);
 }
 
 }  // namespace

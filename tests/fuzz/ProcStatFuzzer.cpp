@@ -29,12 +29,12 @@ extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
     for (const std::string_view part : {text.substr(0, size / 2), text.substr(size / 2), text}) {
         if (const auto ticks = parseProcessorTicks(part)) {
             const CPUTicks next = publish(accumulator, *ticks);
-            require(next.idle - last.idle < std::uint32_t{1} << 31U);
+            trapUnless(next.idle - last.idle < std::uint32_t{1} << 31U);
             const double usage = next.usage(last).value_or(0);
-            require(usage >= 0 && usage <= 100);
+            trapUnless(usage >= 0 && usage <= 100);
             last = next;
         }
-        require(countProcessors(part).value_or(1) >= 1);
+        trapUnless(countProcessors(part).value_or(1) >= 1);
     }
     return 0;
 }

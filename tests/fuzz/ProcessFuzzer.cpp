@@ -21,7 +21,7 @@ bool liesWithin(std::string_view part, std::string_view text) {
 
 void checkPid(std::optional<std::int32_t> pid) {
     constexpr std::int32_t kPidLimit = 4'194'304;
-    require(!pid || (*pid >= 1 && *pid <= kPidLimit));
+    trapUnless(!pid || (*pid >= 1 && *pid <= kPidLimit));
 }
 
 }  // namespace
@@ -29,17 +29,17 @@ void checkPid(std::optional<std::int32_t> pid) {
 extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
     const std::string_view text(data, size);
     if (const auto stat = parseProcPidStat(text)) {
-        require(liesWithin(stat->comm, text));
+        trapUnless(liesWithin(stat->comm, text));
         const std::string_view name = completedProcessName(stat->comm, text);
-        require(name == stat->comm || name.starts_with(stat->comm));
-        require(name == stat->comm || name.find_first_of({"\0/", 2}) == std::string_view::npos);
+        trapUnless(name == stat->comm || name.starts_with(stat->comm));
+        trapUnless(name == stat->comm || name.find_first_of({"\0/", 2}) == std::string_view::npos);
     }
     const std::string_view comm = text.substr(0, kLongestComm);
-    require(completedProcessName(comm, text.substr(comm.size())).starts_with(comm));
+    trapUnless(completedProcessName(comm, text.substr(comm.size())).starts_with(comm));
     anonymousPages(text);
     const auto bytes = anonymousAndSwappedBytes(text);
-    require(!bytes || text.find("RssAnon:") != std::string_view::npos);
-    require(!swapInUse(text) || text.find('\n') != text.rfind('\n'));
+    trapUnless(!bytes || text.find("RssAnon:") != std::string_view::npos);
+    trapUnless(!swapInUse(text) || text.find('\n') != text.rfind('\n'));
     checkPid(newestPid(text));
     checkPid(pidFromName(text));
     return 0;

@@ -21,7 +21,7 @@ public:
     PreferenceStore& preferenceStore() override;
     LoginItem& loginItem() override;
     Formatting& formatting() override;
-    Application* sharedApplication(std::string& whyNot) override;
+    std::variant<Application*, NoDesktop, RunsAlready> sharedApplication() override;
 
 private:
     std::unique_ptr<HostCounters> hostCounters_;

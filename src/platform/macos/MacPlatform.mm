@@ -63,15 +63,14 @@ Formatting& MacPlatform::formatting() {
     return firstUse<MacFormatting>(formatting_);
 }
 
-Application* MacPlatform::sharedApplication(std::string& whyNot) {
+std::variant<Application*, NoDesktop, RunsAlready> MacPlatform::sharedApplication() {
     if (!application_ && !hasGraphicalSession()) {
-        whyNot = "there is no graphical session to connect to";
-        return nullptr;
+        return NoDesktop{"there is no graphical session to connect to"};
     }
     return &firstUse<MacApplication>(application_);
 }
 
-std::unique_ptr<Platform> makePlatform(int& /*argc*/, char** /*argv*/) {
+std::unique_ptr<Platform> makePlatform(std::vector<std::string> /*arguments*/) {
     return std::make_unique<MacPlatform>();
 }
 

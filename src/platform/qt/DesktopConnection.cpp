@@ -45,33 +45,33 @@ bool hasSessionBus() {
 
 }  // namespace
 
-std::optional<QByteArray> findDesktop(std::string& whyNot) {
+std::variant<QByteArray, NoDesktop> findDesktop() {
     const QByteArray wanted = qgetenv("QT_QPA_PLATFORM").split(':').first();
     if (wanted == "offscreen" || wanted == "minimal") {
         return wanted;
     }
     const QByteArray display = qgetenv("DISPLAY");
-    const bool hasWaylandName = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (!display.isEmpty() && reachesXDisplay()) {
-        if (hasPlugin(QStringLiteral("libqxcb*"))) {
+    const QByteArray wayland = qgetenv("WAYLAND_DISPLAY");
+    NoDesktop none{"no display: neither DISPLAY nor WAYLAND_DISPLAY is set"};
+    if (!display.isEmpty()) {
+        if (!reachesXDisplay()) {
+            none.reason = "cannot connect to the X display \"" + display.toStdString() + "\"";
+        } else if (hasPlugin(QStringLiteral("libqxcb*"))) {
             return QByteArray("xcb");
+        } else {
+            none.reason = "Qt's plug-in for X11 displays is not installed";
         }
-        whyNot = "Qt's plug-in for X11 displays is not installed";
-    } else if (!display.isEmpty()) {
-        whyNot = "cannot connect to the X display \"" + display.toStdString() + "\"";
-    } else if (!hasWaylandName) {
-        whyNot = "no display: neither DISPLAY nor WAYLAND_DISPLAY is set";
     }
-    if (hasWaylandName && !isListening(waylandSocket())) {
-        whyNot = "cannot connect to the Wayland display \"" +
-                 qgetenv("WAYLAND_DISPLAY").toStdString() + "\"";
-    } else if (hasWaylandName) {
-        if (hasPlugin(QStringLiteral("libqwayland*"))) {
+    if (!wayland.isEmpty()) {
+        if (!isListening(waylandSocket())) {
+            none.reason = "cannot connect to the Wayland display \"" + wayland.toStdString() + "\"";
+        } else if (hasPlugin(QStringLiteral("libqwayland*"))) {
             return QByteArray("wayland");
+        } else {
+            none.reason = "Qt's plug-in for Wayland displays is not installed";
         }
-        whyNot = "Qt's plug-in for Wayland displays is not installed";
     }
-    return std::nullopt;
+    return none;
 }
 
 void prepareEnvironment(const QByteArray& platform) {

@@ -3,14 +3,14 @@
 #pragma once
 
 #include <QByteArray>
-#include <optional>
-#include <string>
+#include <variant>
+
+#include "platform/Platform.h"
 
 namespace zephrine {
 
-/// The Qt platform plugin that will reach the user's display; absent, with the reason on one line
-/// in `whyNot`, when none will.
-std::optional<QByteArray> findDesktop(std::string& whyNot);
+/// The name of the Qt platform plug-in that will reach the user's display.
+std::variant<QByteArray, NoDesktop> findDesktop();
 
 /// Sets the environment so that Qt connects through `platform` and brings neither the desktop's
 /// theme plug-ins nor parts that this program has no use for.

@@ -59,22 +59,21 @@ void setUpLooks() {
 
 }  // namespace
 
-std::unique_ptr<QtApplication> QtApplication::connect(const std::vector<std::string>& arguments,
-                                                      PreferenceStore& preferences,
-                                                      std::string& whyNot) {
-    const auto platform = findDesktop(whyNot);
-    if (!platform) {
-        return nullptr;
+std::variant<std::unique_ptr<QtApplication>, NoDesktop, RunsAlready> QtApplication::connect(
+    const std::vector<std::string>& arguments, PreferenceStore& preferences) {
+    auto desktop = findDesktop();
+    if (auto* none = std::get_if<NoDesktop>(&desktop)) {
+        return std::move(*none);
     }
-    prepareEnvironment(*platform);
+    const QByteArray platform = std::get<QByteArray>(desktop);
+    prepareEnvironment(platform);
     // The signals first: they wait in every thread that is made later.
     Start start{.termination = std::make_unique<TerminationSignals>(),
                 .program = arguments.empty() ? "zephrine" : arguments.front(),
                 .options = launchOptionsAmong(arguments),
-                .place = InstancePlace::current(platform->toStdString())};
+                .place = InstancePlace::current(platform.toStdString())};
     if (isTakenOver(start.place, start.options)) {
-        whyNot.clear();
-        return nullptr;
+        return RunsAlready{};
     }
     return std::unique_ptr<QtApplication>(new QtApplication(std::move(start), preferences));
 }
@@ -92,10 +91,10 @@ QtApplication::QtApplication(Start start, PreferenceStore& preferences)
       statusBar_({.clickGuard = clickGuard_,
                   .systemAppearance = appearance_,
                   .preferences = preferences,
-                  .openSettings = [this] { openedAgain("--show-settings"); },
+                  .openSettings = [this] { openedAgain(LaunchOption::showSettings); },
                   .quit = [this] { terminate(); }}),
       instance_(QDBusConnection::sessionBus(), start_.place,
-                [this](std::string_view option) { openedAgain(option); }) {
+                [this](std::optional<LaunchOption> option) { openedAgain(option); }) {
     // Qt has taken the user's locale over for the whole process; numbers in texts that the program
     // formats itself keep their decimal point.
     std::setlocale(LC_NUMERIC, "C");
@@ -136,11 +135,11 @@ void QtApplication::terminate() {
     QApplication::exit();
 }
 
-void QtApplication::openedAgain(std::string_view option) {
+void QtApplication::openedAgain(std::optional<LaunchOption> option) {
     // Later: whoever asks waits for an answer, and before the launch there is nothing to open.
     runLoop_.performOnMain([this, option] {
-        if (delegate_ != nullptr && !option.empty()) {
-            delegate_->performLaunchOption(option);
+        if (delegate_ != nullptr && option) {
+            delegate_->performLaunchOption(*option);
         } else if (delegate_ != nullptr) {
             delegate_->applicationShouldHandleReopen(isAnyWindowVisible());
         }

@@ -5,10 +5,11 @@
 #include <QApplication>
 #include <memory>
 #include <string>
-#include <string_view>
+#include <variant>
 #include <vector>
 
 #include "platform/Application.h"
+#include "platform/Platform.h"
 #include "platform/PreferenceStore.h"
 #include "platform/linux/base/LinuxBackgroundWorker.h"
 #include "platform/linux/time/SleepWatcher.h"
@@ -30,12 +31,11 @@ namespace zephrine {
 
 class QtApplication final : public Application {
 public:
-    /// Null when there is no desktop, with the reason, one line, in `whyNot`; null without a reason
-    /// when another instance runs there and was told what `arguments` ask for. The path that this
-    /// program was started by is the first of them. `preferences` outlive the application.
-    static std::unique_ptr<QtApplication> connect(const std::vector<std::string>& arguments,
-                                                  PreferenceStore& preferences,
-                                                  std::string& whyNot);
+    /// Connects to the desktop, or hands what `arguments` ask for to the instance that runs there.
+    /// The path that this program was started by is the first of them. `preferences` outlive the
+    /// application, which is never null.
+    static std::variant<std::unique_ptr<QtApplication>, NoDesktop, RunsAlready> connect(
+        const std::vector<std::string>& arguments, PreferenceStore& preferences);
 
     void setDelegate(ApplicationDelegate& delegate) override { delegate_ = &delegate; }
     void setAccessoryActivationPolicy() override {}  // every window here keeps out of task bars
@@ -69,7 +69,7 @@ private:
     QtApplication(Start start, PreferenceStore& preferences);
 
     void launched();
-    void openedAgain(std::string_view option);
+    void openedAgain(std::optional<LaunchOption> option);
 
     Start start_;
     std::vector<char*> arguments_;

@@ -2,17 +2,26 @@
 // The platform that this program is linked with.
 #include "platform/qt/QtPlatform.h"
 
+#include <utility>
+
 namespace zephrine {
 
-Application* QtPlatform::sharedApplication(std::string& whyNot) {
+std::variant<Application*, NoDesktop, RunsAlready> QtPlatform::sharedApplication() {
     if (!application_) {
-        application_ = QtApplication::connect(arguments_, preferenceStore(), whyNot);
+        auto connection = QtApplication::connect(arguments_, preferenceStore());
+        if (auto* none = std::get_if<NoDesktop>(&connection)) {
+            return std::move(*none);
+        }
+        if (std::holds_alternative<RunsAlready>(connection)) {
+            return RunsAlready{};
+        }
+        application_ = std::get<std::unique_ptr<QtApplication>>(std::move(connection));
     }
     return application_.get();
 }
 
-std::unique_ptr<Platform> makePlatform(int& argc, char** argv) {
-    return std::make_unique<QtPlatform>(std::vector<std::string>(argv, argv + argc));
+std::unique_ptr<Platform> makePlatform(std::vector<std::string> arguments) {
+    return std::make_unique<QtPlatform>(std::move(arguments));
 }
 
 }  // namespace zephrine

@@ -32,7 +32,7 @@ public:
     LoginItem& loginItem() override { return made(loginItem_); }
     Formatting& formatting() override { return made(formatting_); }
 
-    Application* sharedApplication(std::string& whyNot) override;
+    std::variant<Application*, NoDesktop, RunsAlready> sharedApplication() override;
 
 private:
     template <typename Service>

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-// See the header.
 #include "platform/qt/SingleInstance.h"
 
 #include <utility>

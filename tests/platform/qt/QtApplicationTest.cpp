@@ -25,7 +25,7 @@ struct Delegate : ApplicationDelegate {
         ++reopened;
         return false;
     }
-    void performLaunchOption(std::string_view /*option*/) override {}
+    void performLaunchOption(LaunchOption /*option*/) override {}
 };
 
 struct QtApplicationSignalTest : testing::TestWithParam<int> {};

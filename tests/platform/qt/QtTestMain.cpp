@@ -24,12 +24,12 @@ int main(int argc, char** argv) {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", "disabled:");
     zephrine::FakePreferenceStore preferences;
-    std::string whyNot;
-    const auto owned = zephrine::QtApplication::connect({argv[0]}, preferences, whyNot);
-    if (!owned) {
-        std::fprintf(stderr, "%s\n", whyNot.c_str());
+    const auto connection = zephrine::QtApplication::connect({argv[0]}, preferences);
+    if (const auto* none = std::get_if<zephrine::NoDesktop>(&connection)) {
+        std::fprintf(stderr, "%s\n", none->reason.c_str());
         return 1;
     }
+    const auto& owned = std::get<std::unique_ptr<zephrine::QtApplication>>(connection);
     application = owned.get();
     return RUN_ALL_TESTS();
 }

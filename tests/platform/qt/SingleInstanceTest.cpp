@@ -25,7 +25,9 @@ struct SingleInstanceTest : testing::Test {
     QTemporaryDir folder;
     InstancePlace place{":5", folder.path().toStdString()};
     std::vector<std::string> received;
-    HandoverReceiver receiver = [this](auto option) { received.emplace_back(option); };
+    HandoverReceiver receiver = [this](auto option) {
+        received.push_back(option ? std::string(wordOf(*option)) : "");
+    };
 
     /// Claims from another thread, while this one goes on like a running program.
     static bool claim(SingleInstance& instance, const HandedOptions& options) {
@@ -40,7 +42,7 @@ TEST_F(SingleInstanceTest, HandsOverToTheFirstOnTheBus) {
     SingleInstance first(firstPeer.bus(), place, receiver);
     EXPECT_EQ(handOver(secondPeer.bus(), place, {}), Handover::nobody);
     ASSERT_TRUE(first.claim({}));
-    EXPECT_EQ(handOver(secondPeer.bus(), place, {"--inspect"}), Handover::done);
+    EXPECT_EQ(handOver(secondPeer.bus(), place, {LaunchOption::inspect}), Handover::done);
     EXPECT_THAT(received, ElementsAre("--inspect"));
 }
 
@@ -48,7 +50,7 @@ TEST_F(SingleInstanceTest, GivesWayToOneThatWasFasterAndTellsIt) {
     SingleInstance first(firstPeer.bus(), place, receiver);
     SingleInstance second(secondPeer.bus(), place, [](auto) { FAIL(); });
     ASSERT_TRUE(first.claim({}));
-    EXPECT_FALSE(second.claim({"--show-settings"}));
+    EXPECT_FALSE(second.claim({LaunchOption::showSettings}));
     EXPECT_THAT(received, ElementsAre("--show-settings"));
 }
 
@@ -56,7 +58,7 @@ TEST_F(SingleInstanceTest, MeetsAtTheSocketWithoutABus) {
     SingleInstance first(noBus, place, receiver);
     SingleInstance second(noBus, place, [](auto) { FAIL(); });
     ASSERT_TRUE(first.claim({}));
-    EXPECT_FALSE(claim(second, {"--show-settings"}));
+    EXPECT_FALSE(claim(second, {LaunchOption::showSettings}));
     EXPECT_THAT(received, ElementsAre("--show-settings"));
 }
 
@@ -64,7 +66,7 @@ TEST_F(SingleInstanceTest, MayClaimItsPlaceAgain) {
     for (const QDBusConnection& bus : {firstPeer.bus(), noBus}) {
         SingleInstance first(bus, place, receiver);
         EXPECT_TRUE(first.claim({}));
-        EXPECT_TRUE(first.claim({"--inspect"}));
+        EXPECT_TRUE(first.claim({LaunchOption::inspect}));
     }
     EXPECT_THAT(received, IsEmpty());
 }

@@ -45,14 +45,15 @@ std::optional<std::string_view> CounterFile::read(std::span<char> buffer) {
 bool CounterFile::open() {
     // O_NONBLOCK: a FIFO in the place of a counter must not hold up the program.
     descriptor_ = ::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (descriptor_ < 0) {
+        error_ = {errno, std::system_category()};
+    }
     return descriptor_ >= 0;
 }
 
 void CounterFile::close() {
     if (descriptor_ >= 0) {
-        const int reason = errno;
         ::close(std::exchange(descriptor_, -1));
-        errno = reason;
     }
 }
 
@@ -62,6 +63,7 @@ std::optional<std::string_view> CounterFile::readOnce(std::span<char> buffer) {
         length = ::pread(descriptor_, buffer.data(), buffer.size(), 0);
     } while (length < 0 && errno == EINTR);
     if (length < 0) {
+        error_ = {errno, std::system_category()};
         return std::nullopt;
     }
     return std::string_view(buffer.data(), static_cast<std::size_t>(length));

@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace zephrine {
 
@@ -19,11 +20,12 @@ public:
     CounterFile(const CounterFile&) = delete;
     CounterFile& operator=(const CounterFile&) = delete;
 
-    /// The file's text, as much as fits, in `buffer`; absent when it cannot be read (`errno` says
-    /// why). A kept descriptor that fails is opened anew once: its device may have come back, or
-    /// the file system that stood behind it may have been restarted. Never waits, whatever the path
-    /// leads to.
+    /// The file's text, as much as fits, in `buffer`; absent when it cannot be read. A kept
+    /// descriptor that fails is opened anew once: its device may have come back, or the file system
+    /// that stood behind it may have been restarted. Never waits, whatever the path leads to.
     std::optional<std::string_view> read(std::span<char> buffer);
+    /// Why the last reading failed, if it did.
+    [[nodiscard]] std::error_code error() const { return error_; }
 
 private:
     bool open();
@@ -32,6 +34,7 @@ private:
 
     std::string path_;
     int descriptor_ = -1;
+    std::error_code error_;
 };
 
 }  // namespace zephrine

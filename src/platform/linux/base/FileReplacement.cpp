@@ -14,7 +14,6 @@
 #include <climits>
 #include <cstddef>
 #include <cstdio>
-#include <utility>
 
 #include "platform/linux/base/FileDescriptor.h"
 
@@ -31,20 +30,26 @@ std::string nameOf(const std::string& path) {
     return path.substr(path.rfind('/') + 1);
 }
 
-/// False, with the reason in errno, when a folder is missing and cannot be made.
-bool makeFolders(const std::string& folder) {
+/// What went wrong last, asked before anything else is called.
+std::error_code lastError() {
+    return {errno, std::system_category()};
+}
+
+std::error_code makeFolders(const std::string& folder) {
     for (std::size_t end = 1; end != std::string::npos && end < folder.size();) {
         end = folder.find('/', end);
         if (::mkdir(folder.substr(0, end).c_str(), S_IRWXU) != 0 && errno != EEXIST) {
-            return false;
+            return lastError();
         }
         end = end == std::string::npos ? end : end + 1;
     }
-    return true;
+    return {};
 }
 
-FileDescriptor openFolder(const std::string& folder) {
-    return FileDescriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+FileDescriptor openFolder(const std::string& folder, std::error_code& error) {
+    FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    error = opened ? std::error_code() : lastError();
+    return opened;
 }
 
 /// Takes the lock, and makes sure that the name was not given to another file meanwhile.
@@ -60,16 +65,23 @@ bool lockUnder(const FileDescriptor& file, const FileDescriptor& folder, const s
            opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-FileDescriptor createTemporary(const FileDescriptor& folder, const std::string& name) {
+/// None, with the reason in `error`, when it cannot be made or another process is at work there.
+FileDescriptor createTemporary(const FileDescriptor& folder, const std::string& name,
+                               std::error_code& error) {
     constexpr int kCreate = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     constexpr int kOpen = O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     for (int attempt = 0; attempt < 2; ++attempt) {
         FileDescriptor file(::openat(folder.get(), name.c_str(), kCreate, S_IRUSR | S_IWUSR));
-        if (file) {
-            return lockUnder(file, folder, name) ? std::move(file) : FileDescriptor();
+        error = file ? std::error_code() : lastError();
+        if (file && lockUnder(file, folder, name)) {
+            return file;
         }
-        const FileDescriptor leftover(::openat(folder.get(), name.c_str(), kOpen));
-        if (!leftover || !lockUnder(leftover, folder, name)) {
+        const FileDescriptor leftover(file ? -1 : ::openat(folder.get(), name.c_str(), kOpen));
+        const bool isAnothers = file || (leftover && !lockUnder(leftover, folder, name));
+        if (isAnothers) {
+            error = std::make_error_code(std::errc::resource_unavailable_try_again);
+        }
+        if (isAnothers || !leftover) {
             break;
         }
         ::unlinkat(folder.get(), name.c_str(), 0);
@@ -105,37 +117,41 @@ std::optional<std::string> followLinks(std::string path) {
     return std::nullopt;
 }
 
-bool replaceFile(const std::string& path, std::string_view contents) {
+std::error_code replaceFile(const std::string& path, std::string_view contents) {
     const auto target = followLinks(path);
     if (!target) {
-        return false;
+        return std::make_error_code(std::errc::too_many_symbolic_link_levels);
     }
-    const bool exists = makeFolders(folderOf(*target));
-    const FileDescriptor folder = exists ? openFolder(folderOf(*target)) : FileDescriptor();
+    std::error_code error = makeFolders(folderOf(*target));
+    if (error) {
+        return error;
+    }
+    const FileDescriptor folder = openFolder(folderOf(*target), error);
     const std::string name = nameOf(*target);
     const std::string temporary = name + ".new";
-    const FileDescriptor file = folder ? createTemporary(folder, temporary) : FileDescriptor();
+    const FileDescriptor file =
+        folder ? createTemporary(folder, temporary, error) : FileDescriptor();
     if (!file) {
-        return false;
+        return error;
     }
     const bool replaced =
         ::fchmod(file.get(), S_IRUSR | S_IWUSR) == 0 && file.write(contents) &&
         ::fsync(file.get()) == 0 &&
         ::renameat(folder.get(), temporary.c_str(), folder.get(), name.c_str()) == 0;
     if (!replaced) {
-        const int reason = errno;
+        error = lastError();
         ::unlinkat(folder.get(), temporary.c_str(), 0);
-        errno = reason;
-        return false;
+        return error;
     }
     ::fsync(folder.get());  // the new name; the contents are safe already
-    return true;
+    return {};
 }
 
 bool moveFileAside(const std::string& path) {
     constexpr int kMostNames = 100;
     const auto target = followLinks(path);
-    const FileDescriptor folder = target ? openFolder(folderOf(*target)) : FileDescriptor();
+    std::error_code error;
+    const FileDescriptor folder = target ? openFolder(folderOf(*target), error) : FileDescriptor();
     if (!folder) {
         return false;
     }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace zephrine {
 
@@ -14,9 +15,10 @@ namespace zephrine {
 std::optional<std::string> followLinks(std::string path);
 
 /// Gives the file at `path` new contents and the mode 0600; missing folders are made with 0700. A
-/// symbolic link stays and the file that it leads to is replaced. False, with the old file as it
-/// was and the reason in errno, when this fails or another process is replacing the file right now.
-bool replaceFile(const std::string& path, std::string_view contents);
+/// symbolic link stays and the file that it leads to is replaced. Returns what went wrong, with the
+/// old file as it was, also when another process is replacing the file right now; no error when
+/// nothing did.
+[[nodiscard]] std::error_code replaceFile(const std::string& path, std::string_view contents);
 
 /// Renames the file at `path` to a free name beside it (".corrupt", ".corrupt-2", …).
 bool moveFileAside(const std::string& path);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// See the header.
 #include "platform/linux/base/UnixSocket.h"
 
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 
+#include <cerrno>
 #include <cstring>
 #include <optional>
 
@@ -34,6 +34,14 @@ FileDescriptor connectToSocket(const std::string& path, int type) {
         address &&
         ::connect(socket.get(), reinterpret_cast<const sockaddr*>(&*address), sizeof *address) == 0;
     return connected ? std::move(socket) : FileDescriptor();
+}
+
+bool hasListener(const std::string& path, int type) {
+    const auto address = addressOf(path);
+    const FileDescriptor socket(::socket(AF_UNIX, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    return address && (::connect(socket.get(), reinterpret_cast<const sockaddr*>(&*address),
+                                 sizeof *address) == 0 ||
+                       errno == EAGAIN);
 }
 
 FileDescriptor listenAtSocket(const std::string& path, int type) {

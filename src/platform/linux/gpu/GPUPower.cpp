@@ -4,7 +4,6 @@
 #include "platform/linux/gpu/GPUPower.h"
 
 #include <array>
-#include <cerrno>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
@@ -34,7 +33,7 @@ bool GPUPower::isAwake() {
     if (!text) {
         // A kernel built without power management has no such file, and its devices never sleep.
         // Any other failure leaves the question open, so the card is left alone.
-        return errno == ENOENT;
+        return runtimeStatus_.error() == std::errc::no_such_file_or_directory;
     }
     const auto line = takeLine(*text);
     // "unsupported": the kernel does not manage this device's power at run time, so it stays as it

@@ -36,10 +36,6 @@ std::string ownProgram() {
     return ::access(path.c_str(), X_OK) == 0 ? path : std::string();
 }
 
-std::string systemsWords(int error) {
-    return std::generic_category().message(error);
-}
-
 bool isExecutableFile(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
@@ -106,8 +102,8 @@ std::optional<std::string> AutostartLoginItem::registerItem() {
     if (environment_.program.empty()) {
         return "The program's own file cannot be found.";
     }
-    if (!replaceFile(path(), autostartEntry(environment_.program))) {
-        return path() + ": " + systemsWords(errno);
+    if (const auto error = replaceFile(path(), autostartEntry(environment_.program))) {
+        return path() + ": " + error.message();
     }
     return std::nullopt;
 }
@@ -117,7 +113,7 @@ std::optional<std::string> AutostartLoginItem::unregisterItem() {
         ::unlink(path().c_str()) == 0 || errno == ENOENT || errno == ENOTDIR) {
         return std::nullopt;
     }
-    return path() + ": " + systemsWords(errno);
+    return path() + ": " + std::system_category().message(errno);
 }
 
 bool AutostartLoginItem::programExists(std::string_view program) const {

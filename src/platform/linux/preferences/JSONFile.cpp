@@ -79,7 +79,7 @@ bool JSONFile::save() {
         }
         state_ = State::usable;
     }
-    return replaceFile(path_, preferenceText(*document_));
+    return !replaceFile(path_, preferenceText(*document_));
 }
 
 void JSONFile::refresh() {

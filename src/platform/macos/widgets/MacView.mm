@@ -47,7 +47,7 @@ void MacView::setToolTip(const std::string& text) {
 
 NSView* nativeView(View& view) {
     const auto* ours = dynamic_cast<const MacView*>(&view);
-    require(ours != nullptr);
+    trapUnless(ours != nullptr);
     return ours->view();
 }
 

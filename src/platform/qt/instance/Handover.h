@@ -2,19 +2,21 @@
 // What passes between a start of the program and the instance that runs already.
 #pragma once
 
+#include <chrono>
 #include <functional>
-#include <string_view>
+#include <optional>
 #include <vector>
+
+#include "platform/LaunchOptions.h"
 
 namespace zephrine {
 
-/// Those of `launchOptions` that a start was given, in their order; none asks the running program
-/// to come forward.
-using HandedOptions = std::vector<std::string_view>;
+/// What a start was given, in order; nothing asks the running program to come forward.
+using HandedOptions = std::vector<LaunchOption>;
 
-/// Called in the running program with one of `launchOptions`, or with nothing to come forward. It
-/// must not wait: the other side does, for the answer.
-using HandoverReceiver = std::function<void(std::string_view option)>;
+/// Called in the running program with one option, or with none to come forward. It must not wait:
+/// the other side does, for the answer.
+using HandoverReceiver = std::function<void(std::optional<LaunchOption> option)>;
 
 enum class Handover {
     nobody,  ///< no other instance runs
@@ -22,7 +24,7 @@ enum class Handover {
     silent,  ///< somebody stands in its place, but does not answer as it does, or not in time
 };
 
-/// How long a running instance may take to answer; milliseconds.
-constexpr int handoverPatience = 3000;
+/// How long a running instance may take to answer.
+constexpr std::chrono::milliseconds handoverPatience{3000};
 
 }  // namespace zephrine

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
-// See the header.
 #include "platform/qt/instance/InstanceBus.h"
 
 #include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <algorithm>
 #include <utility>
-
-#include "platform/LaunchOptions.h"
 
 namespace zephrine {
 
@@ -25,7 +21,7 @@ Handover call(const QDBusConnection& bus, const std::string& name, const QString
     request.setArguments(arguments);
     request.setAutoStartService(false);
     const auto mode = QCoreApplication::instance() == nullptr ? QDBus::Block : QDBus::BlockWithGui;
-    const QDBusMessage reply = bus.call(request, mode, handoverPatience);
+    const QDBusMessage reply = bus.call(request, mode, static_cast<int>(handoverPatience.count()));
     if (reply.type() == QDBusMessage::ReplyMessage) {
         return Handover::done;
     }
@@ -45,7 +41,7 @@ Handover handOverBus(const QDBusConnection& bus, const std::string& name,
     Handover result = Handover::done;
     for (auto option = options.begin(); option != options.end() && result == Handover::done;
          ++option) {
-        const std::string_view action = option->substr(dashes.size());
+        const std::string_view action = wordOf(*option).substr(dashes.size());
         result = call(bus, name, QStringLiteral("ActivateAction"),
                       {QString::fromUtf8(action.data(), static_cast<qsizetype>(action.size())),
                        QVariantList(), QVariantMap()});
@@ -72,19 +68,17 @@ bool InstanceBus::claim(const std::string& name, const std::string& sharedName) 
 }
 
 void InstanceBus::Activate(const QVariantMap& /*platformData*/) {
-    receiver_({});
+    receiver_(std::nullopt);
 }
 
 void InstanceBus::Open(const QStringList& /*uris*/, const QVariantMap& /*platformData*/) {
-    receiver_({});
+    receiver_(std::nullopt);
 }
 
 void InstanceBus::ActivateAction(const QString& name, const QVariantList& /*parameter*/,
                                  const QVariantMap& /*platformData*/) {
-    const std::string option = std::string(dashes) + name.toStdString();
-    const auto known = std::find(launchOptions.begin(), launchOptions.end(), option);
-    if (known != launchOptions.end()) {
-        receiver_(*known);
+    if (const auto option = launchOptionOf(std::string(dashes) + name.toStdString())) {
+        receiver_(option);
     }
 }
 

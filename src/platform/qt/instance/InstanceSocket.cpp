@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstddef>
 #include <optional>
 #include <utility>
@@ -29,8 +28,8 @@ using Packet = std::array<char, 256>;
 
 std::string messageOf(const HandedOptions& options) {
     std::string message(comeForward);
-    for (const std::string_view option : options) {
-        message.append(" ").append(option);
+    for (const LaunchOption option : options) {
+        message.append(" ").append(wordOf(option));
     }
     return message;
 }
@@ -45,11 +44,11 @@ std::optional<HandedOptions> optionsIn(std::string_view message) {
     while (message.starts_with(' ')) {
         message.remove_prefix(1);
         const std::string_view word = message.substr(0, message.find(' '));
-        const auto known = std::find(launchOptions.begin(), launchOptions.end(), word);
-        if (known == launchOptions.end()) {
+        const auto option = launchOptionOf(word);
+        if (!option) {
             return std::nullopt;
         }
-        options.push_back(*known);
+        options.push_back(*option);
         message.remove_prefix(word.size());
     }
     return message.empty() ? std::optional(options) : std::nullopt;
@@ -70,7 +69,7 @@ bool send(const FileDescriptor& peer, std::string_view packet) {
 
 bool isReadableInTime(const FileDescriptor& peer) {
     pollfd wait{.fd = peer.get(), .events = POLLIN, .revents = 0};
-    return ::poll(&wait, 1, handoverPatience) == 1;
+    return ::poll(&wait, 1, static_cast<int>(handoverPatience.count())) == 1;
 }
 
 }  // namespace
@@ -101,9 +100,7 @@ bool InstanceSocket::claim(const std::string& path) {
     // Two that start at the same time come here one after the other.
     const FileDescriptor lock(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     ::flock(lock.get(), LOCK_EX);
-    errno = 0;
-    const bool somebodyListens = connectToSocket(path, SOCK_SEQPACKET) || errno == EAGAIN;
-    if (somebodyListens) {
+    if (hasListener(path, SOCK_SEQPACKET)) {
         return false;
     }
     ::unlink(path.c_str());
@@ -141,9 +138,9 @@ void InstanceSocket::answer(const FileDescriptor& peer) {
         return;
     }
     if (options->empty()) {
-        receiver_({});
+        receiver_(std::nullopt);
     }
-    for (const std::string_view option : *options) {
+    for (const LaunchOption option : *options) {
         receiver_(option);
     }
     static_cast<void>(send(peer, taken));  // who no longer waits misses nothing

@@ -89,7 +89,7 @@ void QtView::setToolTip(const std::string& text) {
 
 QtView& qtView(View& view) {
     auto* ours = dynamic_cast<QtView*>(&view);
-    require(ours != nullptr);
+    trapUnless(ours != nullptr);
     return *ours;
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/x11/ScreenScale.h"
 #include "platform/qt/x11/X11Windows.h"
 
 namespace zephrine {
@@ -60,17 +61,8 @@ QRect workAreaOf(const QScreen& screen) {
     if (!panels || screen.virtualSiblings().size() < 2) {
         return available;
     }
-    // Qt leaves the corner of a screen where X11 has it, and scales its size.
-    const QPoint corner = screen.geometry().topLeft();
-    const double scale = screen.devicePixelRatio();
-    const QRect native(corner, screen.geometry().size() * scale);
-    const QRect area = withoutStruts(native, panels->root, panels->struts);
-    const auto logical = [scale](int pixels) {
-        return static_cast<int>(std::ceil(static_cast<double>(pixels) / scale));
-    };
-    const QPoint start(logical(area.left() - corner.x()), logical(area.top() - corner.y()));
-    return {corner + start,
-            QSize(static_cast<int>(area.width() / scale), static_cast<int>(area.height() / scale))};
+    const ScreenScale scale(screen);
+    return scale.pointsWithin(withoutStruts(scale.pixels(), panels->root, panels->struts));
 }
 
 const QScreen& screenAt(QPoint place) {

@@ -12,6 +12,7 @@
 #include <span>
 #include <string_view>
 
+#include "platform/qt/x11/ScreenScale.h"
 #include "platform/qt/x11/X11.h"
 
 namespace zephrine {
@@ -50,14 +51,12 @@ std::optional<Strut> strutFrom(std::span<const std::uint32_t> words, QSize root)
                  rightStart, rightEnd, topStart, topEnd, bottomStart, bottomEnd};
 }
 
-/// Qt leaves the corner of a screen where the X server has it, and scales distances from there.
 QRect logicalRect(const QRect& onRoot) {
     const auto screens = QGuiApplication::screens();
     for (const QScreen* screen : screens) {
-        const QPoint corner = screen->geometry().topLeft();
-        const double scale = screen->devicePixelRatio();
-        if (QRect(corner, screen->geometry().size() * scale).contains(onRoot.topLeft())) {
-            return {corner + (onRoot.topLeft() - corner) / scale, onRoot.size() / scale};
+        const ScreenScale scale(*screen);
+        if (scale.pixels().contains(onRoot.topLeft())) {
+            return scale.toPoints(onRoot);
         }
     }
     return onRoot;
@@ -142,9 +141,7 @@ QRect pixelRect(const QRect& place) {
     if (screen == nullptr) {
         screen = QGuiApplication::primaryScreen();
     }
-    const QPoint corner = screen->geometry().topLeft();
-    const double scale = screen->devicePixelRatio();
-    return {corner + (place.topLeft() - corner) * scale, place.size() * scale};
+    return ScreenScale(*screen).toPixels(place);
 }
 
 void activateAsPager(QWindow& window) {

@@ -181,11 +181,11 @@ TEST(FileReplacement, LeavesTheWorkOfAnotherWriterAlone) {
     tree.write("file.new", "half");
     const int other = ::open(tree.path("file.new").c_str(), O_WRONLY | O_CLOEXEC);
     ASSERT_EQ(::flock(other, LOCK_EX), 0);
-    EXPECT_FALSE(replaceFile(tree.path("file"), "mine"));
+    EXPECT_TRUE(replaceFile(tree.path("file"), "mine")) << "an error";
     EXPECT_EQ(textOf(tree.path("file")), "old");
     EXPECT_EQ(textOf(tree.path("file.new")), "half");
     ::close(other);
-    EXPECT_TRUE(replaceFile(tree.path("file"), "mine"));
+    EXPECT_EQ(replaceFile(tree.path("file"), "mine"), std::error_code());
     EXPECT_EQ(textOf(tree.path("file")), "mine");
 }
 
@@ -193,14 +193,14 @@ TEST(FileReplacement, DoesNotWriteThroughALinkThatStandsUnderTheTemporaryName) {
     const testing::FakeTree tree;
     tree.write("victim", "precious");
     tree.link("file.new", tree.path("victim"));
-    EXPECT_FALSE(replaceFile(tree.path("file"), "mine"));
+    EXPECT_TRUE(replaceFile(tree.path("file"), "mine")) << "an error";
     EXPECT_EQ(textOf(tree.path("victim")), "precious");
 }
 
 TEST(FileReplacement, TakesPathsWithoutAFolder) {
     const testing::FakeTree tree;
     EXPECT_EQ(inChild([&tree] {
-                  return ::chdir(tree.root().c_str()) == 0 && replaceFile("file", "mine") &&
+                  return ::chdir(tree.root().c_str()) == 0 && !replaceFile("file", "mine") &&
                                  textOf("file") == "mine"
                              ? 0
                              : 1;

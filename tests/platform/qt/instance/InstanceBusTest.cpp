@@ -23,7 +23,9 @@ struct InstanceBusTest : testing::Test {
     BusPeer firstPeer{daemon};
     BusPeer secondPeer{daemon};
     std::vector<std::string> received;
-    InstanceBus first{firstPeer.bus(), [this](auto option) { received.emplace_back(option); }};
+    InstanceBus first{firstPeer.bus(), [this](auto option) {
+                          received.push_back(option ? std::string(wordOf(*option)) : "");
+                      }};
 
     QDBusMessage callShared(const char* method, const QVariantList& arguments) {
         return secondPeer.call(sharedName, "/org/zephrine/Zephrine", "org.freedesktop.Application",
@@ -33,7 +35,7 @@ struct InstanceBusTest : testing::Test {
 
 TEST_F(InstanceBusTest, FindsNobodyBeforeTheFirst) {
     EXPECT_EQ(handOverBus(secondPeer.bus(), name, {}), Handover::nobody);
-    EXPECT_EQ(handOverBus(secondPeer.bus(), name, {"--inspect"}), Handover::nobody);
+    EXPECT_EQ(handOverBus(secondPeer.bus(), name, {LaunchOption::inspect}), Handover::nobody);
 }
 
 TEST_F(InstanceBusTest, LetsTheFirstComeForward) {
@@ -44,7 +46,8 @@ TEST_F(InstanceBusTest, LetsTheFirstComeForward) {
 
 TEST_F(InstanceBusTest, HandsOptionsOverInTheirOrder) {
     ASSERT_TRUE(first.claim(name, sharedName));
-    EXPECT_EQ(handOverBus(secondPeer.bus(), name, {"--enable-login", "--show-settings"}),
+    EXPECT_EQ(handOverBus(secondPeer.bus(), name,
+                          {LaunchOption::enableLogin, LaunchOption::showSettings}),
               Handover::done);
     EXPECT_THAT(received, ElementsAre("--enable-login", "--show-settings"));
 }
@@ -60,7 +63,9 @@ TEST_F(InstanceBusTest, GivesItsNameToOneInstanceAtATime) {
 TEST_F(InstanceBusTest, LeavesTheSharedNameToTheNextSessionWhenItEnds) {
     ASSERT_TRUE(first.claim(name, sharedName));
     std::vector<std::string> other;
-    InstanceBus elsewhere(secondPeer.bus(), [&](auto option) { other.emplace_back(option); });
+    InstanceBus elsewhere(secondPeer.bus(), [&](auto option) {
+        other.push_back(option ? std::string(wordOf(*option)) : "");
+    });
     ASSERT_TRUE(elsewhere.claim("org.zephrine.Zephrine.Display__3a6", sharedName));
     BusPeer desktop(daemon);
     const auto activate = [&desktop] {

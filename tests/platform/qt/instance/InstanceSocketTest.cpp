@@ -26,7 +26,8 @@ struct InstanceSocketTest : testing::Test {
     QTemporaryDir folder;
     const std::string path = folder.path().toStdString() + "/zephrine/_3a5.socket";
     std::vector<std::string> received;
-    InstanceSocket first{[this](auto option) { received.emplace_back(option); }};
+    InstanceSocket first{
+        [this](auto option) { received.push_back(option ? std::string(wordOf(*option)) : ""); }};
 
     /// From another thread, while this one goes on like a running program.
     [[nodiscard]] Handover handOver(const HandedOptions& options) const {
@@ -69,7 +70,8 @@ TEST_F(InstanceSocketTest, LetsTheFirstComeForward) {
 
 TEST_F(InstanceSocketTest, HandsOptionsOverInTheirOrder) {
     ASSERT_TRUE(first.claim(path));
-    EXPECT_EQ(handOver({"--enable-login", "--show-dashboard", "--show-settings", "--inspect"}),
+    EXPECT_EQ(handOver({LaunchOption::enableLogin, LaunchOption::showDashboard,
+                        LaunchOption::showSettings, LaunchOption::inspect}),
               Handover::done);
     EXPECT_THAT(received,
                 ElementsAre("--enable-login", "--show-dashboard", "--show-settings", "--inspect"));
@@ -85,9 +87,11 @@ TEST_F(InstanceSocketTest, IsForTheUserAlone) {
 }
 
 TEST_F(InstanceSocketTest, RefusesOtherUsers) {
-    InstanceSocket foreign([this](auto option) { received.emplace_back(option); }, ::geteuid() + 1);
+    InstanceSocket foreign(
+        [this](auto option) { received.push_back(option ? std::string(wordOf(*option)) : ""); },
+        ::geteuid() + 1);
     ASSERT_TRUE(foreign.claim(path));
-    EXPECT_EQ(handOver({"--show-settings"}), Handover::silent);
+    EXPECT_EQ(handOver({LaunchOption::showSettings}), Handover::silent);
     EXPECT_THAT(received, IsEmpty());
 }
 

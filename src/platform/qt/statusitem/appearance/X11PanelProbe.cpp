@@ -12,6 +12,7 @@
 #include "platform/linux/processes/ProcessFacts.h"
 #include "platform/qt/statusitem/appearance/DrawnPanel.h"
 #include "platform/qt/statusitem/appearance/PanelPixels.h"
+#include "platform/qt/x11/ScreenScale.h"
 #include "platform/qt/x11/X11.h"
 
 namespace zephrine {
@@ -127,11 +128,8 @@ std::optional<X11PanelProbe::Area> X11PanelProbe::areaOfDrawnPanel() const {
     if (monitor == nullptr) {
         return std::nullopt;
     }
-    // Qt leaves the corner of a monitor where X11 has it, and scales its size.
-    const QRect pixels(monitor->geometry().topLeft(),
-                       monitor->geometry().size() * monitor->devicePixelRatio());
     const auto strip =
-        drawnPanel(pixels & QRect(QPoint(), screenSize()),
+        drawnPanel(ScreenScale(*monitor).pixels() & QRect(QPoint(), screenSize()),
                    propertyWords(connection_, askProperty(screen_->root, workAreas)));
     return strip ? areaOnScreen(*strip) : std::nullopt;
 }
