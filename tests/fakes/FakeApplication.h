@@ -16,7 +16,7 @@ namespace zephrine {
 class FakeApplication : public Application {
 public:
     FakeRunLoop loop;
-    FakeBackgroundWorker worker;
+    FakeBackgroundWorker worker{loop};
     FakeStatusBar bar;
     FakeTextMeasure measure;
     FakeWidgetFactory widgetFactory;

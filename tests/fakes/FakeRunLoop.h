@@ -68,16 +68,31 @@ private:
 
 class FakeBackgroundWorker : public BackgroundWorker {
 public:
-    std::deque<std::function<void()>> jobs;
+    struct Request {
+        Job job;
+        std::function<void()> givenUp;
+    };
+    std::deque<Request> jobs;
 
-    void perform(std::function<void()> job) override { jobs.push_back(std::move(job)); }
+    explicit FakeBackgroundWorker(FakeRunLoop& loop) : loop_(loop) {}
 
-    /// Runs the oldest job that has not run yet.
-    void release() {
-        const auto job = std::move(jobs.front());
-        jobs.pop_front();
-        job();
+    void perform(Job job, std::function<void()> givenUp) override {
+        jobs.push_back({std::move(job), std::move(givenUp)});
     }
+
+    /// Runs the oldest job that has not run yet, and queues its completion.
+    void release() { loop_.performOnMain(take().job()); }
+    /// Leaves it stuck, and queues what comes of that.
+    void giveUp() { loop_.performOnMain(take().givenUp); }
+
+private:
+    Request take() {
+        Request request = std::move(jobs.front());
+        jobs.pop_front();
+        return request;
+    }
+
+    FakeRunLoop& loop_;
 };
 
 }  // namespace zephrine

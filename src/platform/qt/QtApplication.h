@@ -85,7 +85,7 @@ private:
     QtWindowFactory windows_;
     QtStatusBar statusBar_;
     SingleInstance instance_;
-    QtBackgroundWorker worker_;  // last: its job is over before anything else goes away
+    QtBackgroundWorker worker_{runLoop_};
     ApplicationDelegate* delegate_ = nullptr;
     bool terminated_ = false;
 };

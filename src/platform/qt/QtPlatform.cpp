@@ -4,6 +4,14 @@
 
 namespace zephrine {
 
+std::shared_ptr<ProcessTable> QtPlatform::processTable() {
+    if (!processTable_ || processTable_.use_count() > 1) {
+        processTable_ =
+            std::make_shared<LinuxProcessTable>("/proc", processCPUTime, commandLineReaders_);
+    }
+    return processTable_;
+}
+
 Application* QtPlatform::sharedApplication(std::string& whyNot) {
     if (!application_) {
         application_ = QtApplication::connect(arguments_, preferenceStore(), whyNot);

@@ -28,26 +28,32 @@ struct MacRunLoopHarness {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Mac, RunLoopContract, MacRunLoopHarness);
 
-TEST(MacBackgroundWorker, RunsJobsInOrderOffTheMainThread) {
+TEST(MacBackgroundWorker, RunsJobsInOrderOffTheMainThreadAndTheirCompletionsOnIt) {
     std::vector<int> order;
     std::thread::id ranOn;
-    {
-        MacBackgroundWorker worker;
-        std::mutex finished;
-        finished.lock();
-        worker.perform([&] {
+    std::thread::id completedOn;
+    MacBackgroundWorker worker;
+    const auto neverGivenUp = [] { ADD_FAILURE(); };
+    worker.perform(
+        [&] {
             order.push_back(1);
             ranOn = std::this_thread::get_id();
-        });
-        worker.perform([&] {
+            return [&] { completedOn = std::this_thread::get_id(); };
+        },
+        neverGivenUp);
+    bool done = false;
+    worker.perform(
+        [&] {
             order.push_back(2);
-            finished.unlock();
-        });
-        finished.lock();
-        finished.unlock();
+            return [&] { done = true; };
+        },
+        neverGivenUp);
+    while (!done) {
+        passTime(0);
     }
     EXPECT_EQ(order, (std::vector<int>{1, 2}));
     EXPECT_NE(ranOn, std::this_thread::get_id());
+    EXPECT_EQ(completedOn, std::this_thread::get_id());
 }
 
 TEST(MacBackgroundWorker, DropsWhatIsStillQueuedWhenItIsDestroyed) {
@@ -57,11 +63,19 @@ TEST(MacBackgroundWorker, DropsWhatIsStillQueuedWhenItIsDestroyed) {
     started.lock();
     mayEnd.lock();
     auto worker = std::make_unique<MacBackgroundWorker>();
-    worker->perform([&] {
-        started.unlock();
-        mayEnd.lock();
-    });
-    worker->perform([&] { ranLate = true; });
+    worker->perform(
+        [&] {
+            started.unlock();
+            mayEnd.lock();
+            return [&] { ranLate = true; };
+        },
+        [] {});
+    worker->perform(
+        [&]() -> BackgroundWorker::Completion {
+            ranLate = true;
+            return {};
+        },
+        [] {});
     started.lock();
     std::thread releaser([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
@@ -69,6 +83,7 @@ TEST(MacBackgroundWorker, DropsWhatIsStillQueuedWhenItIsDestroyed) {
     });
     worker.reset();
     releaser.join();
+    passTime(0.1);
     EXPECT_FALSE(ranLate);
 }
 
