@@ -74,8 +74,9 @@ public:
 private:
     void updateDashboard();
     void makeSettingsWindow();
+    /// Without a snapshot: the capture was given up.
     void finishProcessRefresh(const ProcessTask& task, std::int64_t generation,
-                              ProcessSnapshot snapshot);
+                              std::optional<ProcessSnapshot> snapshot);
     void advanceProcessGeneration();
 
     MainThread mainThread_;

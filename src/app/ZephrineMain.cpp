@@ -16,9 +16,10 @@ namespace zephrine {
 namespace {
 
 void runSelfCheck(Platform& platform) {
+    const auto processTable = platform.processTable();
     selfCheck({.host = platform.hostCounters(),
                .gpuRegistry = platform.gpuRegistry(),
-               .processTable = platform.processTable(),
+               .processTable = *processTable,
                .sleepForTimeInterval =
                    [](double seconds) {
                        std::this_thread::sleep_for(std::chrono::duration<double>(seconds));

@@ -34,7 +34,9 @@ public:
 
     virtual HostCounters& hostCounters() = 0;
     virtual GPURegistry& gpuRegistry() = 0;
-    virtual ProcessTable& processTable() = 0;
+    /// Nobody else's: a table of which somebody still has a share, as does a capture that was given
+    /// up, is left to them. May live longer than the platform.
+    virtual std::shared_ptr<ProcessTable> processTable() = 0;
     virtual PreferenceStore& preferenceStore() = 0;
     virtual LoginItem& loginItem() = 0;
     virtual Formatting& formatting() = 0;

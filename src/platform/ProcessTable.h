@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The processes that this user may inspect.
 //
-// Contract. May be called from any thread, one caller at a time (the background worker runs its
-// jobs one after another). Nothing throws; a process that ends between two calls, or that the user
-// may not inspect, simply has no answer.
+// Contract. May be called from any thread, one caller at a time. Nothing throws; a process that
+// ends between two calls, or that the user may not inspect, simply has no answer. The system may
+// keep a call waiting, even for ever: a background worker is the place for them.
 #pragma once
 
 #include <cstdint>

@@ -33,9 +33,18 @@ class BackgroundWorker {
 public:
     virtual ~BackgroundWorker() = default;
 
-    /// Runs `job` off the main thread at low priority, after the jobs handed over before it. What
-    /// is still queued when the worker is destroyed does not run.
-    virtual void perform(std::function<void()> job) = 0;
+    /// What a job leaves to be done on the main thread; empty when that is nothing.
+    using Completion = std::function<void()>;
+    using Job = std::function<Completion()>;
+
+    /// Runs `job` off the main thread at low priority, after the jobs handed over before it, and
+    /// then its completion on the main thread. A job that gets stuck, or for which the system
+    /// grants no thread, is given up: `givenUp` runs on the main thread in the completion's stead,
+    /// and the next job has its turn. As one that is stuck may still go on some day, beside other
+    /// jobs and even without the worker, a job uses nothing but what it owns or shares. Nothing
+    /// that is still queued when the worker is destroyed runs. Main thread only; neither function
+    /// runs at once.
+    virtual void perform(Job job, std::function<void()> givenUp) = 0;
 };
 
 }  // namespace zephrine

@@ -26,28 +26,35 @@ void AppDelegate::refreshProcesses() {
         return;
     }
     processTask = std::make_shared<ProcessTask>();
-    // The job runs on another thread: it touches the process table and the run loop, which outlive
-    // it, and hands everything else back to the main thread untouched.
+    const auto finish = [owner = weak_from_this(), task = processTask,
+                         generation = processGeneration](std::optional<ProcessSnapshot> snapshot) {
+        if (const auto controller = owner.lock()) {
+            controller->finishProcessRefresh(*task, generation, std::move(snapshot));
+        }
+    };
+    // The capture runs on another thread, and nobody knows for how long: it has a share in the
+    // process table and hands everything else back to the main thread untouched.
     application_.backgroundWorker().perform(
-        [owner = weak_from_this(), task = processTask, generation = processGeneration,
-         &table = platform_.processTable(), &runLoop = application_.runLoop()] {
-            runLoop.performOnMain(
-                [owner, task, generation, snapshot = ProcessSnapshot::capture(table)]() mutable {
-                    if (const auto controller = owner.lock()) {
-                        controller->finishProcessRefresh(*task, generation, std::move(snapshot));
-                    }
-                });
-        });
+        [finish, table = platform_.processTable()] {
+            return [finish, snapshot = ProcessSnapshot::capture(*table)]() mutable {
+                finish(std::move(snapshot));
+            };
+        },
+        [finish] { finish(std::nullopt); });
 }
 
 void AppDelegate::finishProcessRefresh(const ProcessTask& task, std::int64_t generation,
-                                       ProcessSnapshot snapshot) {
+                                       std::optional<ProcessSnapshot> snapshot) {
     if (generation != processGeneration) {
         return;  // `processTask`, if any, is a newer refresh's: leave it alone.
     }
     if (!task.isCancelled && isDashboardVisible()) {
-        const int cores = platform_.hostCounters().activeProcessorCount();
-        dashboard->updateProcesses(snapshot.usage(previousProcesses, cores));
+        if (snapshot) {
+            const int cores = platform_.hostCounters().activeProcessorCount();
+            dashboard->updateProcesses(snapshot->usage(previousProcesses, cores));
+        } else {
+            dashboard->updateProcesses({});  // the rows that are shown no longer hold
+        }
         previousProcesses = std::move(snapshot);
     }
     processTask.reset();

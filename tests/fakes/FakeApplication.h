@@ -21,7 +21,7 @@ public:
 
     CallLog calls;
     FakeRunLoop loop{calls};
-    FakeBackgroundWorker worker{calls};
+    FakeBackgroundWorker worker{loop, calls};
     FakeStatusBar bar{calls};
     FakeTextMeasure measure;
     FakeWidgetFactory widgetFactory{calls};

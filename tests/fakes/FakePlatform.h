@@ -28,7 +28,9 @@ public:
 
     HostCounters& hostCounters() override { return host; }
     GPURegistry& gpuRegistry() override { return gpus; }
-    ProcessTable& processTable() override { return table; }
+    std::shared_ptr<ProcessTable> processTable() override {
+        return {std::shared_ptr<void>(), &table};  // the test's own
+    }
     PreferenceStore& preferenceStore() override { return store; }
     LoginItem& loginItem() override { return login; }
     Formatting& formatting() override { return texts; }

@@ -76,22 +76,34 @@ private:
 
 class FakeBackgroundWorker : public BackgroundWorker {
 public:
-    explicit FakeBackgroundWorker(CallLog log = {}) : calls(std::move(log)) {}
-
+    struct Request {
+        Job job;
+        std::function<void()> givenUp;
+    };
     CallLog calls;
-    std::deque<std::function<void()>> jobs;
+    std::deque<Request> jobs;
 
-    void perform(std::function<void()> job) override {
+    explicit FakeBackgroundWorker(FakeRunLoop& loop, CallLog log = {})
+        : calls(std::move(log)), loop_(loop) {}
+
+    void perform(Job job, std::function<void()> givenUp) override {
         calls.note("perform");
-        jobs.push_back(std::move(job));
+        jobs.push_back({std::move(job), std::move(givenUp)});
     }
 
-    /// Runs the oldest job that has not run yet.
-    void release() {
-        const auto job = std::move(jobs.front());
+    /// Runs the oldest job that has not run yet, and queues its completion.
+    void release() { loop_.performOnMain(take().job()); }
+    /// Leaves it stuck, and queues what comes of that.
+    void giveUp() { loop_.performOnMain(take().givenUp); }
+
+private:
+    Request take() {
+        Request request = std::move(jobs.front());
         jobs.pop_front();
-        job();
+        return request;
     }
+
+    FakeRunLoop& loop_;
 };
 
 }  // namespace zephrine

@@ -219,6 +219,43 @@ TEST_F(ProcessRefreshTest, WakingUpTakesTheBaselineAway) {
     EXPECT_EQ(firstValue(), "10.0%");
 }
 
+TEST_F(ProcessRefreshTest, ACaptureThatIsGivenUpTakesTheRowsAwayAndTheNextOneBringsThemBack) {
+    launch({"--show-dashboard"});
+    finishCapture();
+    loop().fire(2.0);
+    worker().giveUp();
+    loop().drain();
+    EXPECT_FALSE(isInFlight());
+    EXPECT_EQ(firstName(), "No readable processes");
+    EXPECT_FALSE(controller->previousProcesses.has_value());
+    spend(40);
+    loop().fire(2.0);
+    finishCapture();
+    EXPECT_EQ(firstName(), "worker");
+    EXPECT_EQ(firstValue(), "—");
+}
+
+TEST_F(ProcessRefreshTest, ACaptureOfAnEarlierOpeningThatIsGivenUpLeavesTheNewOneAlone) {
+    launch({"--show-dashboard"});
+    popover().performClose();
+    controller->showDashboard();
+    worker().giveUp();
+    loop().drain();
+    EXPECT_TRUE(isInFlight());
+    EXPECT_EQ(firstName(), "Measuring…");
+    finishCapture();
+    EXPECT_EQ(firstName(), "worker");
+}
+
+TEST_F(ProcessRefreshTest, ACaptureThatIsGivenUpAfterClosingChangesNothing) {
+    launch({"--show-dashboard"});
+    popover().performClose();
+    worker().giveUp();
+    loop().drain();
+    EXPECT_EQ(firstName(), "Measuring…");
+    EXPECT_FALSE(isInFlight());
+}
+
 TEST_F(ProcessRefreshTest, AResultThatOutlivesTheControllerIsDropped) {
     launch({"--show-dashboard"});
     worker().release();

@@ -17,14 +17,24 @@ MacBackgroundWorker::~MacBackgroundWorker() {
                   });
 }
 
-void MacBackgroundWorker::perform(std::function<void()> job) {
-    const auto shared = std::make_shared<const std::function<void()>>(std::move(job));
+void MacBackgroundWorker::perform(Job job, std::function<void()> /*givenUp*/) {
+    // Shared, because a block copies what it captures, and jobs and completions may carry a lot.
+    const auto shared = std::make_shared<Job>(std::move(job));
     const auto stopped = stopped_;
     dispatch_async(queue_, ^{
       @autoreleasepool {
-          if (!stopped->load()) {
-              (*shared)();
+          if (stopped->load()) {
+              return;
           }
+          const auto completion = std::make_shared<const Completion>((*shared)());
+          *shared = nullptr;  // what it held is free before anybody can know that it ended
+          dispatch_async(dispatch_get_main_queue(), ^{
+            @autoreleasepool {
+                if (!stopped->load() && *completion) {
+                    (*completion)();
+                }
+            }
+          });
       }
     });
 }

@@ -17,7 +17,7 @@ public:
 
     HostCounters& hostCounters() override;
     GPURegistry& gpuRegistry() override;
-    ProcessTable& processTable() override;
+    std::shared_ptr<ProcessTable> processTable() override;
     PreferenceStore& preferenceStore() override;
     LoginItem& loginItem() override;
     Formatting& formatting() override;
@@ -26,11 +26,11 @@ public:
 private:
     std::unique_ptr<HostCounters> hostCounters_;
     std::unique_ptr<GPURegistry> gpuRegistry_;
-    std::unique_ptr<ProcessTable> processTable_;
+    std::shared_ptr<ProcessTable> processTable_;
     std::unique_ptr<PreferenceStore> preferenceStore_;
     std::unique_ptr<LoginItem> loginItem_;
     std::unique_ptr<Formatting> formatting_;
-    std::unique_ptr<Application> application_;  // last: its worker uses the process table
+    std::unique_ptr<Application> application_;
 };
 
 }  // namespace zephrine

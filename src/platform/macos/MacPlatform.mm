@@ -47,8 +47,11 @@ GPURegistry& MacPlatform::gpuRegistry() {
     return firstUse<MacGPURegistry>(gpuRegistry_);
 }
 
-ProcessTable& MacPlatform::processTable() {
-    return firstUse<MacProcessTable>(processTable_);
+std::shared_ptr<ProcessTable> MacPlatform::processTable() {
+    if (!processTable_ || processTable_.use_count() > 1) {
+        processTable_ = std::make_shared<MacProcessTable>();
+    }
+    return processTable_;
 }
 
 PreferenceStore& MacPlatform::preferenceStore() {

@@ -104,6 +104,8 @@ QtApplication::QtApplication(Start start, PreferenceStore& preferences)
     setUpLooks();
     installAccessibility();
     start_.termination->deliverTo([this] { terminate(); });
+    // Ahead of those who refresh because of a wake-up: the next refresh is to see a whole interval.
+    sleepWatcher_.observe([this] { runLoop_.restartTimers(); });
     const auto applyPalette = [this] {
         const QPalette palette = makePalette(appearance_.current());
         QApplication::setPalette(palette);

@@ -87,7 +87,7 @@ private:
     QtWindowFactory windows_;
     QtStatusBar statusBar_;
     SingleInstance instance_;
-    LinuxBackgroundWorker worker_;  // last: its job is over before anything else goes away
+    LinuxBackgroundWorker worker_{runLoop_};
     ApplicationDelegate* delegate_ = nullptr;
     bool terminated_ = false;
 };

@@ -6,6 +6,14 @@
 
 namespace zephrine {
 
+std::shared_ptr<ProcessTable> QtPlatform::processTable() {
+    if (!processTable_ || processTable_.use_count() > 1) {
+        processTable_ =
+            std::make_shared<LinuxProcessTable>("/proc", processCPUTime, commandLineReaders_);
+    }
+    return processTable_;
+}
+
 std::variant<Application*, NoDesktop, RunsAlready> QtPlatform::sharedApplication() {
     if (!application_) {
         auto connection = QtApplication::connect(arguments_, preferenceStore());

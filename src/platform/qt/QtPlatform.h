@@ -3,6 +3,7 @@
 // made when it is first asked for.
 #pragma once
 
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <string>
@@ -27,7 +28,7 @@ public:
 
     HostCounters& hostCounters() override { return made(hostCounters_); }
     GPURegistry& gpuRegistry() override { return made(gpuRegistry_); }
-    ProcessTable& processTable() override { return made(processTable_); }
+    std::shared_ptr<ProcessTable> processTable() override;
     PreferenceStore& preferenceStore() override { return made(preferences_); }
     LoginItem& loginItem() override { return made(loginItem_); }
     Formatting& formatting() override { return made(formatting_); }
@@ -43,7 +44,8 @@ private:
     std::vector<std::string> arguments_;
     std::optional<LinuxHostCounters> hostCounters_;
     std::optional<LinuxGPURegistry> gpuRegistry_;
-    std::optional<LinuxProcessTable> processTable_;
+    std::shared_ptr<LinuxProcessTable> processTable_;
+    CommandLineReaders commandLineReaders_ = std::make_shared<std::atomic<int>>(0);
     std::optional<JSONPreferenceStore> preferences_;
     std::optional<AutostartLoginItem> loginItem_;
     std::optional<LinuxFormatting> formatting_;

@@ -49,14 +49,19 @@ void QtRunLoop::performOnMain(std::function<void()> work) {
     QMetaObject::invokeMethod(&mainThread_, std::move(work), Qt::QueuedConnection);
 }
 
+void QtRunLoop::restartTimers() {
+    queue_.restart(now());
+    arm();
+}
+
 void QtRunLoop::wake() {
     std::uint64_t expirations = 0;
     [[maybe_unused]] const auto size = ::read(kernelTimer_.get(), &expirations, sizeof expirations);
-    const TimerQueue::Due due = queue_.takeDue(now());
-    arm();  // first: an action may run a loop of its own
-    if (beforeTimers_ && !due.empty()) {
+    if (beforeTimers_) {
         beforeTimers_();
     }
+    const TimerQueue::Due due = queue_.takeDue(now());
+    arm();  // first: an action may run a loop of its own
     TimerQueue::run(due);
 }
 

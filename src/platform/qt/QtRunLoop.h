@@ -16,12 +16,17 @@ namespace zephrine {
 
 class QtRunLoop final : public RunLoop {
 public:
-    /// `beforeTimers` runs on the main thread ahead of every batch of timers that fire.
+    /// `beforeTimers` runs on the main thread before it is seen which timers are due, and may
+    /// restart them.
     explicit QtRunLoop(std::function<void()> beforeTimers = {});
 
     std::unique_ptr<Timer> scheduleTimer(double interval, double tolerance,
                                          std::function<void()> action) override;
     void performOnMain(std::function<void()> work) override;
+
+    /// Lets every timer fire next a whole interval from now. After a sleep most are overdue or all
+    /// but due, and would follow at once on what was done because of the wake-up.
+    void restartTimers();
 
 private:
     void wake();

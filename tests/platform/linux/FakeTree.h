@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: MIT
-// A folder of files that stands in for /proc or /sys during one test, and the captured texts to
-// fill it with.
+// A folder of files that stands in for /proc or /sys during one test.
 #pragma once
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 
 namespace zephrine::testing {
-
-/// The text of tests/data/linux/`name`.
-inline std::string captured(const std::string& name) {
-    std::ifstream file(std::string(ZEPHRINE_TEST_DATA) + "/linux/" + name, std::ios::binary);
-    if (!file) {
-        throw std::runtime_error("no test data called " + name);
-    }
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 class FakeTree {
 public:

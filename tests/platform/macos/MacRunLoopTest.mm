@@ -30,24 +30,32 @@ struct MacRunLoopHarness {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Mac, RunLoopContract, MacRunLoopHarness);
 
-TEST(MacBackgroundWorker, RunsJobsInOrderOffTheMainThread) {
+TEST(MacBackgroundWorker, RunsJobsInOrderOffTheMainThreadAndTheirCompletionsOnIt) {
     std::vector<int> order;
     std::thread::id ranOn;
-    {
-        std::promise<void> finished;
-        MacBackgroundWorker worker;
-        worker.perform([&] {
+    std::thread::id completedOn;
+    MacBackgroundWorker worker;
+    const auto neverGivenUp = [] { ADD_FAILURE(); };
+    worker.perform(
+        [&] {
             order.push_back(1);
             ranOn = std::this_thread::get_id();
-        });
-        worker.perform([&] {
+            return [&] { completedOn = std::this_thread::get_id(); };
+        },
+        neverGivenUp);
+    bool done = false;
+    worker.perform(
+        [&] {
             order.push_back(2);
-            finished.set_value();
-        });
-        finished.get_future().wait();
+            return [&] { done = true; };
+        },
+        neverGivenUp);
+    while (!done) {
+        passTime(0);
     }
     EXPECT_EQ(order, (std::vector<int>{1, 2}));
     EXPECT_NE(ranOn, std::this_thread::get_id());
+    EXPECT_EQ(completedOn, std::this_thread::get_id());
 }
 
 TEST(MacBackgroundWorker, DropsWhatIsStillQueuedWhenItIsDestroyed) {
@@ -55,11 +63,19 @@ TEST(MacBackgroundWorker, DropsWhatIsStillQueuedWhenItIsDestroyed) {
     std::promise<void> mayEnd;
     bool ranLate = false;
     auto worker = std::make_unique<MacBackgroundWorker>();
-    worker->perform([&] {
-        started.set_value();
-        mayEnd.get_future().wait();
-    });
-    worker->perform([&] { ranLate = true; });
+    worker->perform(
+        [&] {
+            started.set_value();
+            mayEnd.get_future().wait();
+            return [&] { ranLate = true; };
+        },
+        [] {});
+    worker->perform(
+        [&]() -> BackgroundWorker::Completion {
+            ranLate = true;
+            return {};
+        },
+        [] {});
     started.get_future().wait();
     std::thread releaser([&] {
         // Time for the end to begin: nothing tells when it waits for the job.
@@ -68,6 +84,7 @@ TEST(MacBackgroundWorker, DropsWhatIsStillQueuedWhenItIsDestroyed) {
     });
     worker.reset();
     releaser.join();
+    passTime(0.1);
     EXPECT_FALSE(ranLate);
 }
 

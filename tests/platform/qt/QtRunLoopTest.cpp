@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "contract/RunLoopContract.h"
+#include "platform/qt/KernelTimers.h"
 #include "platform/qt/statusitem/bus/PrivateBus.h"
 
 namespace zephrine {
@@ -31,6 +32,31 @@ TEST(QtRunLoop, RunsItsCheckAheadOfEveryTimer) {
     ASSERT_TRUE(waitUntil([&] { return log.size() >= 2; }));
     EXPECT_EQ(log[0], "check");
     EXPECT_EQ(log[1], "timer");
+}
+
+TEST(QtRunLoop, FiresNothingThatItsCheckRestarts) {
+    int checks = 0;
+    int fired = 0;
+    QtRunLoop* checked = nullptr;
+    QtRunLoop loop([&] {
+        if (++checks < 3) {
+            EXPECT_EQ(fired, 0);
+            checked->restartTimers();
+        }
+    });
+    checked = &loop;
+    const auto timer = loop.scheduleTimer(0.01, 0, [&] { ++fired; });
+    ASSERT_TRUE(waitUntil([&] { return fired > 0; }));
+    EXPECT_GE(checks, 3);
+}
+
+TEST(QtRunLoop, LetsTheKernelWakeItAsLateAsATimerTolerates) {
+    const auto before = testing::kernelTimers();
+    QtRunLoop loop;
+    const auto timer = loop.scheduleTimer(1000, 150, [] {});
+    const auto kernelTimer = testing::kernelTimers()[testing::newKernelTimer(before)];
+    EXPECT_GT(kernelTimer.secondsLeft, 1000);
+    EXPECT_LE(kernelTimer.secondsLeft, 1150);
 }
 
 TEST(QtRunLoop, KeepsFiringInsideALoopThatAnActionRuns) {

@@ -41,8 +41,10 @@ bool onSameFilesystem(int folder, const char* name) {
 
 }  // namespace
 
-LinuxProcessTable::LinuxProcessTable(const std::string& procRoot, CPUClock cpuClock)
+LinuxProcessTable::LinuxProcessTable(const std::string& procRoot, CPUClock cpuClock,
+                                     CommandLineReaders readers)
     : cpuClock_(std::move(cpuClock)),
+      commandLineReaders_(std::move(readers)),
       proc_(::open(procRoot.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)),
       loadavg_(procRoot + "/loadavg"),
       swaps_(procRoot + "/swaps"),
@@ -196,17 +198,28 @@ void LinuxProcessTable::keep(std::int32_t pid, const ProcPidStat& stat, std::uin
     process.footprint = footprint;
 }
 
-/// Reading the command line takes the process's memory lock: only for a new process or a new
-/// program in it, and only when the kernel's name was cut off.
 void LinuxProcessTable::keepName(Process& process, std::int32_t pid, std::string_view comm) const {
-    std::array<char, 4096> buffer;
-    std::optional<std::string_view> cmdline;
-    if (comm.size() == kLongestComm) {
+    const auto name =
+        comm.size() == kLongestComm ? readCompletedName(pid, comm) : std::string(comm);
+    process.name = name.value_or(std::string(comm));
+    process.commLength = name ? comm.size() : 0;
+}
+
+/// Reading the command line takes the process's memory lock: only for a new process or a new
+/// program in it, and only when the kernel's name was cut off. Of all that is read here only this
+/// can get stuck, where another holds that lock. One stuck thread is enough: as long as it waits,
+/// nobody else tries, and there is no name.
+std::optional<std::string> LinuxProcessTable::readCompletedName(std::int32_t pid,
+                                                                std::string_view comm) const {
+    std::optional<std::string> name;
+    if (commandLineReaders_->fetch_add(1) == 0) {
+        std::array<char, 4096> buffer;
         const FileDescriptor file = open(pid, "/cmdline");
-        cmdline = file ? file.read(buffer) : std::nullopt;
+        const auto cmdline = file ? file.read(buffer) : std::nullopt;
+        name = completedProcessName(comm, cmdline.value_or(""));
     }
-    process.name = completedProcessName(comm, cmdline.value_or(""));
-    process.commLength = comm.size();
+    commandLineReaders_->fetch_sub(1);
+    return name;
 }
 
 int LinuxProcessTable::proc_name(std::int32_t pid, std::span<char> buffer) {

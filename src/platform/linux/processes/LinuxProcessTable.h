@@ -3,7 +3,9 @@
 // sleeps: its CPU clock is read, and only where that has moved are its files in /proc read again.
 #pragma once
 
+#include <atomic>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -17,15 +19,20 @@
 
 namespace zephrine {
 
+/// How many threads are reading the command line of a process. Tables of one program share it.
+using CommandLineReaders = std::shared_ptr<std::atomic<int>>;
+
 class LinuxProcessTable final : public ProcessTable {
 public:
     using CPUClock = std::function<std::optional<std::uint64_t>(std::int32_t pid)>;
 
     /// `procRoot` is where procfs is mounted; `cpuClock` answers as `processCPUTime` does. Where
     /// procfs belongs to another pid namespace than this process there are no processes: its pids
-    /// would name others here.
+    /// would name others here. While `readers` is not 0 names stay as short as the kernel keeps
+    /// them.
     explicit LinuxProcessTable(const std::string& procRoot = "/proc",
-                               CPUClock cpuClock = processCPUTime);
+                               CPUClock cpuClock = processCPUTime,
+                               CommandLineReaders readers = std::make_shared<std::atomic<int>>(0));
 
     int proc_listallpids(std::span<std::int32_t> pids) override;
     std::optional<rusage_info_v2> proc_pid_rusage(std::int32_t pid) override;
@@ -41,7 +48,7 @@ private:
         std::uint64_t cpuTime = 0;
         std::uint64_t startTime = 0;
         std::uint64_t footprint = 0;
-        std::size_t commLength = 0;  ///< how much of `name` the kernel gave
+        std::size_t commLength = 0;  ///< how much of `name` the kernel gave; 0 to ask again
         std::string name;
     };
 
@@ -55,8 +62,11 @@ private:
     void keep(std::int32_t pid, const ProcPidStat& stat, std::uint64_t cpuTime,
               std::uint64_t footprint);
     void keepName(Process& process, std::int32_t pid, std::string_view comm) const;
+    [[nodiscard]] std::optional<std::string> readCompletedName(std::int32_t pid,
+                                                               std::string_view comm) const;
 
     CPUClock cpuClock_;
+    CommandLineReaders commandLineReaders_;
     FileDescriptor proc_;
     CounterFile loadavg_;
     CounterFile swaps_;

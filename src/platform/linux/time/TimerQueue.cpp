@@ -60,6 +60,14 @@ TimerQueue::Due TimerQueue::takeDue(Time now) {
     return due;
 }
 
+void TimerQueue::restart(Time now) {
+    for (const auto& weak : entries_) {
+        if (const auto entry = weak.lock()) {
+            entry->due = now + entry->interval;
+        }
+    }
+}
+
 void TimerQueue::run(const Due& due) {
     for (const auto& entry : due) {
         if (entry->cancelled || entry->running) {

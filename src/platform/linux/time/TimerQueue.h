@@ -39,6 +39,9 @@ public:
     /// were missed altogether are left out, and lateness does not move the grid.
     [[nodiscard]] Due takeDue(Time now);
 
+    /// Lets every timer be due a whole interval from now, whatever it was due before.
+    void restart(Time now);
+
     /// Calls the actions of those that are not destroyed meanwhile, none inside itself.
     static void run(const Due& due);
 

@@ -6,67 +6,168 @@
 #include <sys/resource.h>
 
 #include <atomic>
-#include <future>
 #include <memory>
+#include <thread>
 #include <utility>
 #include <vector>
+
+#include "platform/linux/FakeTree.h"
+#include "platform/linux/HangingFile.h"
+#include "platform/linux/StuckWork.h"
+#include "platform/linux/ThreadShortage.h"
+#include "platform/qt/QtRunLoop.h"
+#include "platform/qt/statusitem/bus/PrivateBus.h"
 
 namespace zephrine {
 namespace {
 
-TEST(LinuxBackgroundWorker, RunsJobsInOrderOnOneThreadOfItsOwn) {
-    std::vector<int> order;
-    std::vector<std::thread::id> threads;
-    std::promise<void> done;
-    LinuxBackgroundWorker worker;
-    for (int job = 0; job < 5; ++job) {
-        worker.perform([&, job] {
-            order.push_back(job);
-            threads.push_back(std::this_thread::get_id());
-            if (job == 4) {
-                done.set_value();
-            }
-        });
+using ::testing::Each;
+using ::testing::ElementsAre;
+
+struct LinuxBackgroundWorkerTest : ::testing::Test {
+    /// Hands over a job; the log gets `name` from its completion, or from its being given up.
+    void perform(const std::string& name, std::function<void()> work) {
+        worker->perform(
+            [this, name, work = std::move(work)]() -> BackgroundWorker::Completion {
+                work();
+                return [this, name] { log.push_back(name); };
+            },
+            [this, name] { log.push_back(name + " given up"); });
     }
-    done.get_future().wait();
-    EXPECT_THAT(order, testing::ElementsAre(0, 1, 2, 3, 4));
-    EXPECT_THAT(threads, testing::Each(threads.front()));
+    [[nodiscard]] bool waitForLog(std::size_t entries) const {
+        return waitUntil([&] { return log.size() >= entries; });
+    }
+
+    std::vector<std::string> log;
+    testing::StuckWork stuck;
+    QtRunLoop loop;
+    static constexpr double kPatience = 0.05;
+    std::unique_ptr<LinuxBackgroundWorker> worker =
+        std::make_unique<LinuxBackgroundWorker>(loop, kPatience);
+};
+
+TEST_F(LinuxBackgroundWorkerTest, RunsJobsInOrderOnOneThreadAndTheirCompletionsOnTheMainThread) {
+    std::vector<std::thread::id> threads;
+    for (const char* name : {"1", "2", "3"}) {
+        perform(name, [&] { threads.push_back(std::this_thread::get_id()); });
+    }
+    EXPECT_TRUE(log.empty());
+    ASSERT_TRUE(waitForLog(3));
+    EXPECT_THAT(log, ElementsAre("1", "2", "3"));
+    EXPECT_THAT(threads, Each(threads.front()));
     EXPECT_NE(threads.front(), std::this_thread::get_id());
 }
 
-TEST(LinuxBackgroundWorker, RunsAtLowPriority) {
-    std::promise<std::pair<int, int>> found;
-    LinuxBackgroundWorker worker;
-    worker.perform([&] { found.set_value({sched_getscheduler(0), getpriority(PRIO_PROCESS, 0)}); });
-    const auto [policy, niceValue] = found.get_future().get();
+TEST_F(LinuxBackgroundWorkerTest, RunsAtLowPriority) {
+    int policy = -1;
+    int niceValue = 0;
+    perform("look", [&] {
+        policy = sched_getscheduler(0);
+        niceValue = getpriority(PRIO_PROCESS, 0);
+    });
+    ASSERT_TRUE(waitForLog(1));
     EXPECT_EQ(policy, SCHED_BATCH);
     EXPECT_GE(niceValue, 10);
     EXPECT_EQ(sched_getscheduler(0), SCHED_OTHER) << "the main thread keeps its own";
 }
 
-TEST(LinuxBackgroundWorker, DropsWhatIsQueuedWhenItIsDestroyed) {
-    std::promise<void> started;
-    std::promise<void> goOn;
-    std::atomic<bool> firstEnded = false;
-    std::atomic<bool> secondRan = false;
+TEST_F(LinuxBackgroundWorkerTest, TakesAJobWithoutACompletion) {
+    worker->perform([] { return BackgroundWorker::Completion(); }, [] {});
+    perform("next", [] {});
+    ASSERT_TRUE(waitForLog(1));
+}
+
+TEST_F(LinuxBackgroundWorkerTest, FreesWhatAJobHeldBeforeItsCompletionRuns) {
+    auto held = std::make_shared<int>();
+    const std::weak_ptr<int> watch = held;
+    bool free = false;
+    worker->perform(
+        [&, held = std::move(held)] {
+            return [&] {
+                free = watch.expired();
+                log.emplace_back("done");
+            };
+        },
+        [] {});
+    ASSERT_TRUE(waitForLog(1));
+    EXPECT_TRUE(free);
+}
+
+TEST_F(LinuxBackgroundWorkerTest, GivesUpAJobThatIsStuckAndGoesOnWithTheNext) {
+    const testing::FakeTree tree;
+    const testing::HangingFile file(tree.path("file"));
+    perform("stuck", [&] { file.read(); });
+    perform("next", [] {});
+    ASSERT_TRUE(waitForLog(2));
+    EXPECT_THAT(log, ElementsAre("stuck given up", "next"));
+}
+
+TEST_F(LinuxBackgroundWorkerTest, HearsNothingOfAJobThatGoesOnAfterItWasGivenUp) {
+    perform("stuck", stuck.work());
+    ASSERT_TRUE(waitForLog(1));
+    stuck.goOn();
+    perform("next", [] {});
+    ASSERT_TRUE(waitForLog(2));
+    EXPECT_THAT(log, ElementsAre("stuck given up", "next"));
+}
+
+TEST_F(LinuxBackgroundWorkerTest, LeavesAJobAloneThatTakesLongButWorks) {
+    constexpr double kMorePatience = 0.5;  // a thread of low priority does not run all the time
+    worker = std::make_unique<LinuxBackgroundWorker>(loop, kMorePatience);
+    perform("works", [] {
+        const auto end =
+            std::chrono::steady_clock::now() + std::chrono::duration<double>(4 * kMorePatience);
+        while (std::chrono::steady_clock::now() < end) {
+        }
+    });
+    ASSERT_TRUE(waitForLog(1));
+    EXPECT_THAT(log, ElementsAre("works"));
+}
+
+TEST_F(LinuxBackgroundWorkerTest, StartsNoMoreThreadsWhileFourAreStuck) {
+    for (std::size_t job = 1; job <= 4; ++job) {
+        perform("stuck", stuck.work());
+        ASSERT_TRUE(waitForLog(job));
+        EXPECT_EQ(stuck.waiting(), static_cast<int>(job));
+    }
+    bool ran = false;
+    perform("fifth", [&] { ran = true; });
+    EXPECT_EQ(log.size(), 4U) << "not at once";
+    ASSERT_TRUE(waitForLog(5));
+    EXPECT_EQ(log.back(), "fifth given up");
+    EXPECT_FALSE(ran);
+    stuck.goOn();
+    EXPECT_TRUE(waitUntil([&] {
+        perform("again", [] {});
+        return waitForLog(log.size() + 1) && log.back() == "again";
+    }));
+}
+
+TEST_F(LinuxBackgroundWorkerTest, GivesUpWhereTheSystemGrantsNoThread) {
+    {
+        const testing::ThreadShortage shortage;
+        perform("first", [] {});
+        perform("second", [] {});
+    }
+    ASSERT_TRUE(waitForLog(2));
+    EXPECT_THAT(log, ElementsAre("first given up", "second given up"));
+    perform("third", [] {});
+    ASSERT_TRUE(waitForLog(3));
+    EXPECT_EQ(log.back(), "third");
+}
+
+TEST_F(LinuxBackgroundWorkerTest, LetsGoOfAStuckJobWhenItIsDestroyedAndDropsTheOthers) {
     auto token = std::make_shared<int>();
     const std::weak_ptr<int> queued = token;
-    auto worker = std::make_unique<LinuxBackgroundWorker>();
-    worker->perform([&] {
-        started.set_value();
-        goOn.get_future().wait();
-        firstEnded = true;
-    });
-    worker->perform([&secondRan, held = std::move(token)] { secondRan = true; });
-    started.get_future().wait();
-    std::thread destroyer([&] { worker.reset(); });
-    while (!queued.expired()) {  // until the queue is dropped
-        std::this_thread::yield();
-    }
-    goOn.set_value();
-    destroyer.join();
-    EXPECT_TRUE(firstEnded) << "the job that ran was waited for";
-    EXPECT_FALSE(secondRan);
+    perform("stuck", stuck.work());
+    perform("dropped", [held = std::move(token)] {});
+    ASSERT_TRUE(waitUntil([&] { return stuck.waiting() == 1; }));
+    worker.reset();
+    EXPECT_EQ(stuck.waiting(), 1);
+    EXPECT_TRUE(queued.expired());
+    stuck.goOn();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(log.empty());
 }
 
 }  // namespace

@@ -7,8 +7,10 @@
 #include <limits>
 
 #include "platform/linux/AllocationCount.h"
+#include "platform/linux/Captured.h"
 #include "platform/linux/FakeTree.h"
 #include "platform/linux/OpenWatch.h"
+#include "platform/linux/PretendedSleep.h"
 #include "sampling/CPUTicks.h"
 #include "sampling/MemoryReading.h"
 
@@ -203,6 +205,14 @@ TEST_F(LinuxHostCountersTest, GivesTheClockAsUptime) {
     EXPECT_EQ(counters.systemUptime(), 100);
     now = 101.5;
     EXPECT_EQ(counters.systemUptime(), 101.5);
+}
+
+TEST(LinuxHostCounters, DoesNotCountTimeAsleepAsUptime) {
+    constexpr int kHour = 3600;
+    LinuxHostCounters counters;
+    const double before = counters.systemUptime();
+    testing::pretendSleep(kHour);
+    EXPECT_LT(counters.systemUptime(), before + kHour);
 }
 
 TEST(LinuxHostCounters, ReadsThisMachine) {

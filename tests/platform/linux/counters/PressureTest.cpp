@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/linux/Captured.h"
 #include "platform/linux/FakeTree.h"
 
 namespace zephrine {

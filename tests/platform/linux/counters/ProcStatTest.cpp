@@ -5,6 +5,7 @@
 
 #include <tuple>
 
+#include "platform/linux/Captured.h"
 #include "platform/linux/FakeTree.h"
 
 namespace zephrine {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <random>
 
+#include "platform/linux/Captured.h"
 #include "platform/linux/FakeTree.h"
 #include "sampling/MemoryReading.h"
 

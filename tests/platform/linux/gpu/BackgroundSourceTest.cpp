@@ -8,7 +8,7 @@
 #include <mutex>
 #include <vector>
 
-#include "platform/linux/gpu/Eventually.h"
+#include "platform/linux/Eventually.h"
 
 namespace zephrine {
 namespace {

@@ -4,9 +4,9 @@
 
 #include <atomic>
 
+#include "platform/linux/Eventually.h"
 #include "platform/linux/OpenWatch.h"
 #include "platform/linux/counters/LinuxHostCounters.h"
-#include "platform/linux/gpu/Eventually.h"
 #include "platform/linux/gpu/FakeCards.h"
 #include "platform/linux/gpu/FakeClients.h"
 #include "platform/linux/gpu/FakeNVML.h"

@@ -9,8 +9,8 @@
 #include <iterator>
 
 #include "platform/linux/AllocationCount.h"
+#include "platform/linux/Eventually.h"
 #include "platform/linux/OpenWatch.h"
-#include "platform/linux/gpu/Eventually.h"
 #include "platform/linux/gpu/FakeCards.h"
 
 namespace zephrine {

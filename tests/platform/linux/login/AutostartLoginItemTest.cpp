@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "platform/linux/Captured.h"
 #include "platform/linux/FakeTree.h"
 #include "platform/linux/base/ConfigHome.h"
 

@@ -14,6 +14,7 @@
 #include <string>
 
 #include "platform/linux/AllocationCount.h"
+#include "platform/linux/Captured.h"
 #include "platform/linux/FakeTree.h"
 
 namespace zephrine {

@@ -9,7 +9,9 @@
 #include <vector>
 
 #include "platform/linux/AllocationCount.h"
+#include "platform/linux/PretendedSleep.h"
 #include "platform/linux/processes/ProcessTableFixture.h"
+#include "platform/linux/Captured.h"
 
 namespace zephrine {
 namespace {
@@ -205,6 +207,14 @@ TEST_F(LinuxProcessTableTest, GivesNothingForTruncatedFiles) {
 TEST_F(LinuxProcessTableTest, GivesNothingForPidsThatCannotBe) {
     EXPECT_FALSE(table_.proc_pid_rusage(0));
     EXPECT_FALSE(table_.proc_pid_rusage(-1));
+}
+
+TEST_F(LinuxProcessTableTest, HasAClockThatStandsStillInSleepAsThoseOfProcessesDo) {
+    constexpr std::uint64_t kHour = 3'600'000'000'000;
+    const std::uint64_t before = table_.mach_absolute_time();
+    testing::pretendSleep(3600);
+    EXPECT_GT(table_.mach_absolute_time(), before);
+    EXPECT_LT(table_.mach_absolute_time(), before + kHour);
 }
 
 TEST_F(LinuxProcessTableTest, TakesNothingFromTheHeapForProcessesThatSleep) {

@@ -5,6 +5,7 @@
 
 #include <limits>
 
+#include "platform/linux/Captured.h"
 #include "platform/linux/FakeTree.h"
 
 namespace zephrine {

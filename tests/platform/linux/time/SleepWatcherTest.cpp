@@ -3,12 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/linux/PretendedSleep.h"
+
 namespace zephrine {
 namespace {
 
 using std::chrono::milliseconds;
 
-struct SleepWatcherTest : testing::Test {
+struct SleepWatcherTest : ::testing::Test {
     SleepWatcher::Time awake{std::chrono::hours(1)};
     SleepWatcher::Time asleep{std::chrono::minutes(7)};
     SleepWatcher::Time delay{0};  ///< between two readings of a clock
@@ -78,6 +80,16 @@ TEST_F(SleepWatcherTest, TellsOnceOfASleepThatSomebodyElseTellsOfToo) {
     watcher.hearOfWakeUp();  // before the clocks were looked at
     watcher.check();
     EXPECT_EQ(wakeUps, 4);
+}
+
+TEST(SleepWatcher, SeesASleepInTheClocksOfThisMachine) {
+    int wakeUps = 0;
+    SleepWatcher watcher;
+    watcher.observe([&] { ++wakeUps; });
+    testing::pretendSleep(1);
+    watcher.check();
+    watcher.check();
+    EXPECT_EQ(wakeUps, 1);
 }
 
 TEST(SleepWatcher, SeesNoSleepInTheClocksOfThisMachine) {

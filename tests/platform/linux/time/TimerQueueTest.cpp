@@ -103,6 +103,21 @@ TEST_F(TimerQueueTest, DoesNotCallAnActionInsideItself) {
     EXPECT_EQ(deepest, 1);
 }
 
+TEST_F(TimerQueueTest, LetsEveryTimerBeDueAWholeIntervalAfterARestart) {
+    for (const int interval : {500, 1000, 5000}) {
+        const int tolerance = interval * 15 / 100;
+        const auto overdue = add("overdue", 0, interval, tolerance);
+        const int now = interval * 3 / 2;
+        const auto allButDue = add("all but due", now - interval + 1, interval, tolerance);
+        queue.restart(milliseconds(now));
+        EXPECT_EQ(queue.nextWake(), milliseconds(now + interval + tolerance));
+        runAt(now + interval - 1);
+        EXPECT_THAT(std::exchange(fired, {}), ElementsAre()) << interval;
+        runAt(now + interval);
+        EXPECT_THAT(std::exchange(fired, {}), ElementsAre("overdue", "all but due")) << interval;
+    }
+}
+
 TEST_F(TimerQueueTest, TurnsIntervalsThatAreNoneIntoAMillisecond) {
     const auto timer = add("a", 0, 0);
     EXPECT_EQ(queue.nextWake(), milliseconds(1));
