@@ -25,7 +25,18 @@ AppDelegate::AppDelegate(Platform& platform, Application& application,
       sampler(platform.hostCounters(), platform.gpuRegistry()),
       defaults(platform.preferenceStore()),
       dashboard(std::make_shared<Dashboard>(application, platform.formatting())),
-      popover(application.windows().makePopover()) {}
+      popover(application.windows().makePopover()),
+      processRefresh(std::make_shared<ProcessRefresh>(
+          application.runLoop(), application.backgroundWorker(),
+          ProcessRefresh::Callbacks{
+              .isDashboardVisible = [this] { return isDashboardVisible(); },
+              .processTable = [this] { return platform_.processTable(); },
+              .activeProcessorCount =
+                  [this] { return platform_.hostCounters().activeProcessorCount(); },
+              .updateProcesses =
+                  [this](std::vector<ProcessUsage> rows) {
+                      dashboard->updateProcesses(std::move(rows));
+                  }})) {}
 
 void AppDelegate::applicationDidFinishLaunching() {
     statusItem = application_.statusBar().statusItemWithLength(initialItemLength);
@@ -92,7 +103,7 @@ void AppDelegate::refresh() {
 void AppDelegate::wokeUp() {
     sampler.resetCPU();
     sampler.discoverGPU();
-    previousProcesses.reset();
+    processRefresh->previousProcesses.reset();
     refresh();
 }
 

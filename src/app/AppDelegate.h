@@ -3,7 +3,6 @@
 // answers to the user. Each group of its operations is defined in the folder that it belongs to.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,17 +11,12 @@
 #include "dashboard/Dashboard.h"
 #include "platform/MainThread.h"
 #include "platform/Platform.h"
-#include "processes/ProcessSnapshot.h"
+#include "processes/ProcessRefresh.h"
 #include "sampling/History.h"
 #include "sampling/Sampler.h"
 #include "settings/SettingsWindow.h"
 
 namespace zephrine {
-
-/// A refresh of the process list that is under way.
-struct ProcessTask {
-    bool isCancelled = false;
-};
 
 /// Main thread only, like everything that it calls except the capture of processes; what draws the
 /// item, writes preferences or opens a window ends the process on any other thread. Held by
@@ -53,10 +47,6 @@ public:
     void openInspectionWindow();
     [[nodiscard]] bool isDashboardVisible() const;
 
-    // The process list: processes/ProcessRefresh.cpp
-    void startProcessUpdates();
-    void refreshProcesses();
-
     // The status item: statusitem/UpdateStatusItem.cpp
     void updateStatusItem();
 
@@ -74,10 +64,6 @@ public:
 private:
     void updateDashboard();
     void makeSettingsWindow();
-    /// Without a snapshot: the capture was given up.
-    void finishProcessRefresh(const ProcessTask& task, std::int64_t generation,
-                              std::optional<ProcessSnapshot> snapshot);
-    void advanceProcessGeneration();
 
     MainThread mainThread_;
     Platform& platform_;
@@ -90,13 +76,10 @@ public:
     History history;
     std::unique_ptr<StatusItem> statusItem;  ///< absent until launch
     std::unique_ptr<Timer> timer;            ///< the refresh timer
-    std::unique_ptr<Timer> processTimer;     ///< present while process updates run
-    std::shared_ptr<ProcessTask> processTask;
-    std::optional<ProcessSnapshot> previousProcesses;  ///< baseline of the next process list
-    std::int64_t processGeneration = 0;  ///< moves on whenever process updates start or stop
-    std::string lastImageKey;            ///< of the image shown; emptied to force a redraw
+    std::string lastImageKey;                ///< of the image shown; emptied to force a redraw
     std::shared_ptr<Dashboard> dashboard;
     std::unique_ptr<Popover> popover;
+    std::shared_ptr<ProcessRefresh> processRefresh;  ///< the process list's own cycle
     std::unique_ptr<SettingsWindow> settingsWindow;  ///< absent until it is first opened
     std::unique_ptr<Window> inspectionWindow;
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How the dashboard comes on screen and leaves it: in the popover below the status item, or in the
 // inspection window.
-#include <limits>
-
 #include "app/AppDelegate.h"
 #include "platform/Trap.h"
 
@@ -29,7 +27,7 @@ void AppDelegate::showDashboard() {
     // A popover that could not open, since the system has hidden the item, will not close either:
     // nothing would ever stop what is started here.
     if (popover->isShown()) {
-        startProcessUpdates();
+        processRefresh->startProcessUpdates();
     }
 }
 
@@ -39,13 +37,7 @@ bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/) {
 }
 
 void AppDelegate::popoverDidClose() {
-    processTimer.reset();
-    advanceProcessGeneration();
-    if (processTask) {
-        processTask->isCancelled = true;
-        processTask.reset();
-    }
-    previousProcesses.reset();
+    processRefresh->stopProcessUpdates();
 }
 
 void AppDelegate::openInspectionWindow() {
@@ -55,7 +47,7 @@ void AppDelegate::openInspectionWindow() {
     inspectionWindow->center();
     inspectionWindow->makeKeyAndOrderFront();
     application_.activateIgnoringOtherApps();
-    startProcessUpdates();
+    processRefresh->startProcessUpdates();
 }
 
 bool AppDelegate::isDashboardVisible() const {
@@ -64,11 +56,6 @@ bool AppDelegate::isDashboardVisible() const {
 
 void AppDelegate::updateDashboard() {
     dashboard->update(latestCPU, latestMemory, latestGPU, latestPressure, history, interval());
-}
-
-void AppDelegate::advanceProcessGeneration() {
-    trapUnless(processGeneration < std::numeric_limits<std::int64_t>::max());
-    ++processGeneration;
 }
 
 }  // namespace zephrine

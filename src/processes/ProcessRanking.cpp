@@ -1,66 +1,26 @@
 // SPDX-License-Identifier: MIT
-// The dashboard's "Top processes": ranks the rows that were delivered last and writes the first
-// five of them into the labels.
-#include <algorithm>
-#include <cstddef>
-#include <limits>
-#include <utility>
+#include "processes/ProcessRanking.h"
 
-#include "dashboard/Dashboard.h"
-#include "platform/Trap.h"
-#include "text/Decimal.h"
+#include <algorithm>
 
 namespace zephrine {
 
 namespace {
 
-constexpr int memorySegment = 1;
-
 bool usesMoreMemory(const ProcessUsage& a, const ProcessUsage& b) {
     return a.memory > b.memory;
 }
 
-/// A share of 0 still ranks above a share that is not known.
 bool usesMoreCPU(const ProcessUsage& a, const ProcessUsage& b) {
     return a.cpu.value_or(-1.0) > b.cpu.value_or(-1.0);
 }
 
-std::string cpuValue(const ProcessUsage& row) {
-    return row.cpu ? decimal(*row.cpu, 1) + "%" : "—";
-}
-
-std::string memoryValue(const ProcessUsage& row, const Formatting& formatting) {
-    constexpr std::uint64_t most = std::numeric_limits<std::int64_t>::max();
-    return formatting.stringFromByteCount(static_cast<std::int64_t>(std::min(row.memory, most)));
-}
-
 }  // namespace
 
-void Dashboard::updateProcesses(std::vector<ProcessUsage> rows) {
-    processRows = std::move(rows);
-    sortProcesses();
-}
-
-void Dashboard::sortProcesses() {
-    mainThread_.requireCurrent();
-    trapUnless(processSort != nullptr && processNames.size() >= processRowCount &&
-               processValues.size() >= processRowCount);
-    const bool byMemory = processSort->selectedSegment() == memorySegment;
-    std::vector<ProcessUsage> sorted = processRows;
-    std::stable_sort(sorted.begin(), sorted.end(), byMemory ? usesMoreMemory : usesMoreCPU);
-
-    for (std::size_t i = 0; i < processRowCount; ++i) {
-        if (i < sorted.size()) {
-            const ProcessUsage& row = sorted[i];
-            processNames[i]->setStringValue(row.name);
-            processNames[i]->setToolTip(row.name + " · PID " + std::to_string(row.pid));
-            processValues[i]->setStringValue(byMemory ? memoryValue(row, formatting_)
-                                                      : cpuValue(row));
-        } else {
-            processNames[i]->setStringValue(i == 0 ? "No readable processes" : "");
-            processValues[i]->setStringValue("");
-        }
-    }
+std::vector<ProcessUsage> ranked(std::vector<ProcessUsage> rows, ProcessOrder order) {
+    std::stable_sort(rows.begin(), rows.end(),
+                     order == ProcessOrder::byMemory ? usesMoreMemory : usesMoreCPU);
+    return rows;
 }
 
 }  // namespace zephrine

@@ -91,13 +91,13 @@ TEST_F(AppDelegateTest, WakingUpDropsTheCPUBaselineAndRefreshesAtOnce) {
     platform.host.advance(30, 70);
     controller->refresh();
     platform.host.advance(30, 70);
-    controller->previousProcesses = ProcessSnapshot{};
+    controller->processRefresh->previousProcesses = ProcessSnapshot{};
     application().didWake();
     EXPECT_EQ(controller->latestCPU, std::nullopt);
     EXPECT_EQ(controller->history.samples.size(), 3U);
     EXPECT_EQ(controller->history.samples.back().cpu, std::nullopt);
     EXPECT_EQ(platform.gpus.lookUps, 2);
-    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_FALSE(controller->processRefresh->previousProcesses.has_value());
     EXPECT_EQ(loop().timers.size(), 1U);
 
     platform.host.advance(50, 50);

@@ -65,10 +65,10 @@ TEST_F(PanelPresentationTest, OpeningTheProgramAgainShowsThePopoverOrLeavesItOpe
     launch();
     EXPECT_FALSE(controller->applicationShouldHandleReopen(false));
     EXPECT_TRUE(popover().shown);
-    const auto generation = controller->processGeneration;
+    const auto generation = controller->processRefresh->processGeneration;
     EXPECT_FALSE(controller->applicationShouldHandleReopen(true));
     EXPECT_TRUE(popover().shown);
-    EXPECT_EQ(controller->processGeneration, generation);
+    EXPECT_EQ(controller->processRefresh->processGeneration, generation);
 }
 
 TEST_F(PanelPresentationTest, AnotherStartsOptionsDoWhatTheyDoAtLaunch) {

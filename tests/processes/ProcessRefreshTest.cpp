@@ -23,16 +23,16 @@ protected:
     }
     std::string firstName() { return text(*controller->dashboard->processNames[0]); }
     std::string firstValue() { return text(*controller->dashboard->processValues[0]); }
-    bool isRunning() { return controller->processTimer != nullptr; }
-    bool isInFlight() { return controller->processTask != nullptr; }
+    bool isRunning() { return controller->processRefresh->processTimer != nullptr; }
+    bool isInFlight() { return controller->processRefresh->processTask != nullptr; }
 };
 
 using ProcessRefreshDeathTest = ProcessRefreshTest;
 
 TEST_F(ProcessRefreshDeathTest, AGenerationBeyondTheLastStopsTheProgram) {
     launch();
-    controller->processGeneration = std::numeric_limits<std::int64_t>::max();
-    EXPECT_DEATH(controller->startProcessUpdates(), "^$");
+    controller->processRefresh->processGeneration = std::numeric_limits<std::int64_t>::max();
+    EXPECT_DEATH(controller->processRefresh->startProcessUpdates(), "^$");
     EXPECT_DEATH(controller->popoverDidClose(), "^$");
 }
 
@@ -40,8 +40,8 @@ TEST_F(ProcessRefreshTest, IsStoppedUntilThePanelOpens) {
     launch();
     EXPECT_FALSE(isRunning());
     EXPECT_FALSE(isInFlight());
-    EXPECT_EQ(controller->processGeneration, 0);
-    controller->refreshProcesses();
+    EXPECT_EQ(controller->processRefresh->processGeneration, 0);
+    controller->processRefresh->refreshProcesses();
     EXPECT_TRUE(worker().jobs.empty());
 }
 
@@ -112,14 +112,14 @@ TEST_F(ProcessRefreshTest, ClosingStopsEverything) {
     launch({"--show-dashboard"});
     finishCapture();
     loop().fire(2.0);
-    const auto task = controller->processTask;
-    const auto generation = controller->processGeneration;
+    const auto task = controller->processRefresh->processTask;
+    const auto generation = controller->processRefresh->processGeneration;
     popover().performClose();
     EXPECT_TRUE(task->isCancelled);
     EXPECT_FALSE(isRunning());
     EXPECT_FALSE(isInFlight());
-    EXPECT_FALSE(controller->previousProcesses.has_value());
-    EXPECT_EQ(controller->processGeneration, generation + 1);
+    EXPECT_FALSE(controller->processRefresh->previousProcesses.has_value());
+    EXPECT_EQ(controller->processRefresh->processGeneration, generation + 1);
 }
 
 TEST_F(ProcessRefreshTest, ACaptureThatFinishesAfterClosingIsNeverUsed) {
@@ -127,7 +127,7 @@ TEST_F(ProcessRefreshTest, ACaptureThatFinishesAfterClosingIsNeverUsed) {
     popover().performClose();
     finishCapture();
     EXPECT_EQ(firstName(), "Measuring…");
-    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_FALSE(controller->processRefresh->previousProcesses.has_value());
     EXPECT_FALSE(isInFlight());
 }
 
@@ -140,7 +140,7 @@ TEST_F(ProcessRefreshTest, ACaptureOfAnEarlierOpeningIsDroppedAndLeavesTheNewOne
     finishCapture();
     EXPECT_TRUE(isInFlight());
     EXPECT_EQ(firstName(), "Measuring…");
-    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_FALSE(controller->processRefresh->previousProcesses.has_value());
     platform.table.processes[1].name = "new";
     finishCapture();
     EXPECT_EQ(firstName(), "new");
@@ -162,13 +162,13 @@ TEST_F(ProcessRefreshTest, ACaptureThatFinishesWhileThePanelIsHiddenIsDropped) {
     inspectionWindow().visible = false;
     finishCapture();
     EXPECT_EQ(firstName(), "Measuring…");
-    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_FALSE(controller->processRefresh->previousProcesses.has_value());
     EXPECT_FALSE(isInFlight());
 }
 
 TEST_F(ProcessRefreshTest, ACancelledCaptureIsDroppedAndClearsItsTask) {
     launch({"--show-dashboard"});
-    controller->processTask->isCancelled = true;
+    controller->processRefresh->processTask->isCancelled = true;
     finishCapture();
     EXPECT_EQ(firstName(), "Measuring…");
     EXPECT_FALSE(isInFlight());
@@ -227,7 +227,7 @@ TEST_F(ProcessRefreshTest, ACaptureThatIsGivenUpTakesTheRowsAwayAndTheNextOneBri
     loop().drain();
     EXPECT_FALSE(isInFlight());
     EXPECT_EQ(firstName(), "No readable processes");
-    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_FALSE(controller->processRefresh->previousProcesses.has_value());
     spend(40);
     loop().fire(2.0);
     finishCapture();

@@ -180,7 +180,7 @@ TEST_F(SettingsWindowTest, ClosesThePopover) {
     launch({"--show-dashboard"});
     controller->openSettings();
     EXPECT_FALSE(popover().shown);
-    EXPECT_EQ(controller->processTimer, nullptr);
+    EXPECT_EQ(controller->processRefresh->processTimer, nullptr);
 }
 
 TEST_F(SettingsWindowTest, ClosesThePopoverThenShowsTheStatusThenComesToTheFront) {
