@@ -81,7 +81,8 @@ void AppDelegate::performLaunchOption(LaunchOption option) {
 
 void AppDelegate::resetTimer() {
     timer.reset();
-    timer = application_.runLoop().scheduleTimer(interval(), interval() * toleranceShare,
+    const Seconds period(interval());
+    timer = application_.runLoop().scheduleTimer(period, period * toleranceShare,
                                                  [this] { refresh(); });
 }
 

@@ -3,10 +3,13 @@
 // background worker.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
 namespace zephrine {
+
+using Seconds = std::chrono::duration<double>;
 
 /// A repeating timer that has been scheduled. Destroying it invalidates it: its action is not
 /// called again. The action may destroy the timer that calls it.
@@ -19,10 +22,10 @@ class RunLoop {
 public:
     virtual ~RunLoop() = default;
 
-    /// Calls `action` on the main thread every `interval` seconds, whatever the user is doing
+    /// Calls `action` on the main thread every `interval`, whatever the user is doing
     /// (menus, drags), the first time one interval from now. Each firing may come up to
-    /// `tolerance` seconds late, so that the system can group wake-ups; lateness does not add up.
-    virtual std::unique_ptr<Timer> scheduleTimer(double interval, double tolerance,
+    /// `tolerance` late, so that the system can group wake-ups; lateness does not add up.
+    virtual std::unique_ptr<Timer> scheduleTimer(Seconds interval, Seconds tolerance,
                                                  std::function<void()> action) = 0;
 
     /// Runs `work` on the main thread, after what is queued there already. Any thread may call.

@@ -9,7 +9,7 @@
 namespace zephrine {
 
 namespace {
-constexpr double processInterval = 2.0;  // seconds
+constexpr Seconds processInterval{2};
 }
 
 ProcessRefresh::ProcessRefresh(RunLoop& runLoop, BackgroundWorker& worker, Callbacks callbacks)
@@ -20,7 +20,7 @@ void ProcessRefresh::startProcessUpdates() {
     advanceProcessGeneration();
     refreshProcesses();
     processTimer.reset();
-    processTimer = runLoop_.scheduleTimer(processInterval, 0, [this] { refreshProcesses(); });
+    processTimer = runLoop_.scheduleTimer(processInterval, {}, [this] { refreshProcesses(); });
 }
 
 void ProcessRefresh::refreshProcesses() {

@@ -28,7 +28,7 @@ TYPED_TEST_SUITE_P(RunLoopContract);
 
 TYPED_TEST_P(RunLoopContract, FiresATimerAgainAndAgain) {
     int count = 0;
-    const auto timer = this->harness.loop().scheduleTimer(0.02, 0, [&] { ++count; });
+    const auto timer = this->harness.loop().scheduleTimer(Seconds(0.02), {}, [&] { ++count; });
     EXPECT_EQ(count, 0);
     this->harness.pass(0.02);
     EXPECT_GE(count, 1);
@@ -38,9 +38,9 @@ TYPED_TEST_P(RunLoopContract, FiresATimerAgainAndAgain) {
 }
 
 TYPED_TEST_P(RunLoopContract, NeverFiresATimerThatWasDestroyed) {
-    auto timer = this->harness.loop().scheduleTimer(0.02, 0, this->note("fired"));
+    auto timer = this->harness.loop().scheduleTimer(Seconds(0.02), {}, this->note("fired"));
     timer.reset();
-    const auto other = this->harness.loop().scheduleTimer(0.02, 0, this->note("other"));
+    const auto other = this->harness.loop().scheduleTimer(Seconds(0.02), {}, this->note("other"));
     this->harness.pass(0.02);
     ASSERT_FALSE(this->log.empty());
     EXPECT_EQ(this->log.front(), "other");
@@ -49,11 +49,11 @@ TYPED_TEST_P(RunLoopContract, NeverFiresATimerThatWasDestroyed) {
 TYPED_TEST_P(RunLoopContract, LetsAnActionDestroyItsTimer) {
     int count = 0;
     std::unique_ptr<Timer> timer;
-    timer = this->harness.loop().scheduleTimer(0.02, 0, [&] {
+    timer = this->harness.loop().scheduleTimer(Seconds(0.02), {}, [&] {
         ++count;
         timer.reset();
     });
-    const auto other = this->harness.loop().scheduleTimer(0.02, 0, [] {});
+    const auto other = this->harness.loop().scheduleTimer(Seconds(0.02), {}, [] {});
     this->harness.pass(0.02);
     this->harness.pass(0.02);
     EXPECT_EQ(count, 1);

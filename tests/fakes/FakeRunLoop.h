@@ -20,17 +20,17 @@ public:
 
     CallLog calls;
     struct Scheduled {
-        double interval;
-        double tolerance;
+        double interval;   ///< seconds
+        double tolerance;  ///< seconds
         std::function<void()> action;
     };
     std::list<Scheduled> timers;  ///< the ones that are alive, oldest first
     std::deque<std::function<void()>> mainQueue;
 
-    std::unique_ptr<Timer> scheduleTimer(double interval, double tolerance,
+    std::unique_ptr<Timer> scheduleTimer(Seconds interval, Seconds tolerance,
                                          std::function<void()> action) override {
         calls.note("scheduleTimer");
-        timers.push_back({interval, tolerance, std::move(action)});
+        timers.push_back({interval.count(), tolerance.count(), std::move(action)});
         return std::make_unique<Handle>(*this, std::prev(timers.end()));
     }
     void performOnMain(std::function<void()> work) override {

@@ -8,7 +8,7 @@ namespace zephrine {
 
 class MacRunLoop final : public RunLoop {
 public:
-    std::unique_ptr<Timer> scheduleTimer(double interval, double tolerance,
+    std::unique_ptr<Timer> scheduleTimer(Seconds interval, Seconds tolerance,
                                          std::function<void()> action) override;
     void performOnMain(std::function<void()> work) override;
 };

@@ -24,12 +24,12 @@ private:
 
 }  // namespace
 
-std::unique_ptr<Timer> MacRunLoop::scheduleTimer(double interval, double tolerance,
+std::unique_ptr<Timer> MacRunLoop::scheduleTimer(Seconds interval, Seconds tolerance,
                                                  std::function<void()> action) {
     // A block, not a target: a timer retains its target until it is invalidated. Shared, so that
     // an action which destroys its own timer lives until it returns.
     const auto shared = std::make_shared<const std::function<void()>>(std::move(action));
-    NSTimer* timer = [NSTimer timerWithTimeInterval:interval
+    NSTimer* timer = [NSTimer timerWithTimeInterval:interval.count()
                                             repeats:YES
                                               block:^(NSTimer* /*fired*/) {
                                                 @autoreleasepool {
@@ -37,7 +37,7 @@ std::unique_ptr<Timer> MacRunLoop::scheduleTimer(double interval, double toleran
                                                     (*kept)();
                                                 }
                                               }];
-    timer.tolerance = tolerance;
+    timer.tolerance = tolerance.count();
     // The common modes: in the default one alone it would stand still during menus and drags.
     [NSRunLoop.mainRunLoop addTimer:timer forMode:NSRunLoopCommonModes];
     return std::make_unique<MacTimer>(timer);

@@ -37,10 +37,10 @@ QtRunLoop::QtRunLoop(std::function<void()> beforeTimers)
     QObject::connect(&notifier_, &QSocketNotifier::activated, &mainThread_, [this] { wake(); });
 }
 
-std::unique_ptr<Timer> QtRunLoop::scheduleTimer(double interval, double tolerance,
+std::unique_ptr<Timer> QtRunLoop::scheduleTimer(Seconds interval, Seconds tolerance,
                                                 std::function<void()> action) {
-    auto timer =
-        queue_.add(now(), fromSeconds(interval), fromSeconds(tolerance), std::move(action));
+    auto timer = queue_.add(now(), fromSeconds(interval.count()), fromSeconds(tolerance.count()),
+                            std::move(action));
     arm();
     return timer;
 }

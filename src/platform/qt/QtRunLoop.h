@@ -20,7 +20,7 @@ public:
     /// restart them.
     explicit QtRunLoop(std::function<void()> beforeTimers = {});
 
-    std::unique_ptr<Timer> scheduleTimer(double interval, double tolerance,
+    std::unique_ptr<Timer> scheduleTimer(Seconds interval, Seconds tolerance,
                                          std::function<void()> action) override;
     void performOnMain(std::function<void()> work) override;
 

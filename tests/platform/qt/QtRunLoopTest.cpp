@@ -28,7 +28,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopContract, QtRunLoopHarness);
 TEST(QtRunLoop, RunsItsCheckAheadOfEveryTimer) {
     std::vector<std::string> log;
     QtRunLoop loop([&] { log.emplace_back("check"); });
-    const auto timer = loop.scheduleTimer(0.01, 0, [&] { log.emplace_back("timer"); });
+    const auto timer = loop.scheduleTimer(Seconds(0.01), {}, [&] { log.emplace_back("timer"); });
     ASSERT_TRUE(waitUntil([&] { return log.size() >= 2; }));
     EXPECT_EQ(log[0], "check");
     EXPECT_EQ(log[1], "timer");
@@ -45,7 +45,7 @@ TEST(QtRunLoop, FiresNothingThatItsCheckRestarts) {
         }
     });
     checked = &loop;
-    const auto timer = loop.scheduleTimer(0.01, 0, [&] { ++fired; });
+    const auto timer = loop.scheduleTimer(Seconds(0.01), {}, [&] { ++fired; });
     ASSERT_TRUE(waitUntil([&] { return fired > 0; }));
     EXPECT_GE(checks, 3);
 }
@@ -53,7 +53,7 @@ TEST(QtRunLoop, FiresNothingThatItsCheckRestarts) {
 TEST(QtRunLoop, LetsTheKernelWakeItAsLateAsATimerTolerates) {
     const auto before = testing::kernelTimers();
     QtRunLoop loop;
-    const auto timer = loop.scheduleTimer(1000, 150, [] {});
+    const auto timer = loop.scheduleTimer(Seconds(1000), Seconds(150), [] {});
     const auto kernelTimer = testing::kernelTimers()[testing::newKernelTimer(before)];
     EXPECT_GT(kernelTimer.secondsLeft, 1000);
     EXPECT_LE(kernelTimer.secondsLeft, 1150);
@@ -63,8 +63,8 @@ TEST(QtRunLoop, KeepsFiringInsideALoopThatAnActionRuns) {
     QtRunLoop loop;
     int inner = 0;
     bool done = false;
-    const auto other = loop.scheduleTimer(0.005, 0, [&] { ++inner; });
-    const auto timer = loop.scheduleTimer(0.01, 0, [&] {
+    const auto other = loop.scheduleTimer(Seconds(0.005), {}, [&] { ++inner; });
+    const auto timer = loop.scheduleTimer(Seconds(0.01), {}, [&] {
         const int before = inner;
         done = done || waitUntil([&] { return inner > before + 1; });
     });
@@ -74,7 +74,8 @@ TEST(QtRunLoop, KeepsFiringInsideALoopThatAnActionRuns) {
 TEST(QtRunLoop, TakesAnIntervalThatIsNoNumberForAShortOne) {
     QtRunLoop loop;
     int count = 0;
-    const auto timer = loop.scheduleTimer(std::nan(""), std::nan(""), [&] { ++count; });
+    const auto timer =
+        loop.scheduleTimer(Seconds(std::nan("")), Seconds(std::nan("")), [&] { ++count; });
     EXPECT_TRUE(waitUntil([&] { return count > 0; }));
 }
 

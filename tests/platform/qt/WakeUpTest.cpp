@@ -60,8 +60,8 @@ struct WakeUpTimerTest : WakeUpTest, ::testing::WithParamInterface<double> {
 
     int ticks = 0;
     Clock::time_point ticked;
-    std::unique_ptr<Timer> timer =
-        testApplication().runLoop().scheduleTimer(GetParam(), GetParam() * 0.15, [this] {
+    std::unique_ptr<Timer> timer = testApplication().runLoop().scheduleTimer(
+        Seconds(GetParam()), Seconds(GetParam() * 0.15), [this] {
             ++ticks;
             ticked = Clock::now();
         });

@@ -26,7 +26,7 @@ struct LinuxBackgroundWorker::Desk {
     RunLoop* loop;  ///< null once nobody waits for the thread any more; only then it may be gone
 };
 
-LinuxBackgroundWorker::LinuxBackgroundWorker(RunLoop& loop, double patience)
+LinuxBackgroundWorker::LinuxBackgroundWorker(RunLoop& loop, Seconds patience)
     : loop_(loop), patience_(patience), threads_("zephrine-work", kMostThreads) {}
 
 LinuxBackgroundWorker::~LinuxBackgroundWorker() {
@@ -68,7 +68,8 @@ bool LinuxBackgroundWorker::ensureThread() {
     return thread_ != nullptr;
 }
 
-void LinuxBackgroundWorker::serve(const std::shared_ptr<Desk>& desk, LinuxBackgroundWorker* worker) {
+void LinuxBackgroundWorker::serve(const std::shared_ptr<Desk>& desk,
+                                  LinuxBackgroundWorker* worker) {
     std::unique_lock lock(desk->mutex);
     for (;;) {
         desk->changed.wait(lock, [&desk] { return desk->job || desk->loop == nullptr; });

@@ -18,7 +18,7 @@ class LinuxBackgroundWorker final : public BackgroundWorker {
 public:
     /// `loop` outlives the worker. A job is stuck when its thread has not run at all for `patience`
     /// seconds; one that merely has to wait for a processor on a busy machine is not.
-    explicit LinuxBackgroundWorker(RunLoop& loop, double patience = 3);
+    explicit LinuxBackgroundWorker(RunLoop& loop, Seconds patience = Seconds(3));
     /// Waits a moment for the job that runs, if any, and then lets go of it; the others are
     /// dropped.
     ~LinuxBackgroundWorker() override;
@@ -44,7 +44,7 @@ private:
     void finish(const std::function<void()>& completion);
 
     RunLoop& loop_;
-    double patience_;
+    Seconds patience_;
     LooseThreads threads_;
     std::deque<Request> waiting_;
     std::shared_ptr<Desk> desk_;           ///< where the thread takes its jobs from

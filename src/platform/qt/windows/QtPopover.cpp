@@ -49,7 +49,7 @@ void QtPopover::showRelativeTo(StatusItemButton& button) {
     }
     // The mouse is held from the first moment at which nobody else holds it. A full interval of
     // tolerance lets the timer fire with others.
-    watch_ = runLoop_.scheduleTimer(1, 1, [this] { frame_.holdMouse(); });
+    watch_ = runLoop_.scheduleTimer(Seconds(1), Seconds(1), [this] { frame_.holdMouse(); });
 }
 
 QPoint QtPopover::cornerBeside(const std::optional<QRect>& item) const {
