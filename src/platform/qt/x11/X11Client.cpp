@@ -9,12 +9,12 @@
 
 namespace zephrine {
 
-X11Client::X11Client(Handler handler) : handler_(std::move(handler)) {
-    if (x11Connection() == nullptr) {
+X11Client::X11Client(Handler handler, const char* display) : handler_(std::move(handler)) {
+    if (display == nullptr && x11Connection() == nullptr) {
         return;
     }
     int number = 0;
-    connection_.reset(xcb_connect(nullptr, &number));
+    connection_.reset(xcb_connect(display, &number));
     if (xcb_connection_has_error(connection_.get()) != 0) {
         connection_.reset();
         return;

@@ -17,9 +17,9 @@ class X11Client final : public QObject {
 public:
     using Handler = std::function<void(const xcb_generic_event_t&)>;
 
-    /// To the display that Qt is on; closed when that is no X11 one. `handler` gets every event,
-    /// from the event loop.
-    explicit X11Client(Handler handler);
+    /// To `display`, or to the one that Qt is on when that is null; closed when that is no X11 one.
+    /// `handler` gets every event, from the event loop.
+    explicit X11Client(Handler handler, const char* display = nullptr);
 
     [[nodiscard]] bool isOpen() const { return connection_ != nullptr; }
     /// Both only while it is open.

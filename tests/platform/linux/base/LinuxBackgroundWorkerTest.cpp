@@ -41,7 +41,7 @@ struct LinuxBackgroundWorkerTest : ::testing::Test {
     std::vector<std::string> log;
     testing::StuckWork stuck;
     QtRunLoop loop;
-    static constexpr double kPatience = 0.05;
+    static constexpr Seconds kPatience{0.05};
     std::unique_ptr<LinuxBackgroundWorker> worker =
         std::make_unique<LinuxBackgroundWorker>(loop, kPatience);
 };

@@ -17,8 +17,9 @@
 
 namespace zephrine {
 
-TrayItem::TrayItem()
-    : spoken_({.place = [this] { return place(); },
+TrayItem::TrayItem(const char* display)
+    : display_(display),
+      spoken_({.place = [this] { return place(); },
                .press =
                    [this] {
                        QMetaObject::invokeMethod(this, &TrayItem::pressed, Qt::QueuedConnection);
@@ -37,8 +38,8 @@ void TrayItem::setWanted(bool wanted) {
         connection_.reset();
         return;
     }
-    connection_ =
-        std::make_unique<X11Client>([this](const xcb_generic_event_t& event) { handle(event); });
+    connection_ = std::make_unique<X11Client>(
+        [this](const xcb_generic_event_t& event) { handle(event); }, display_);
     if (connection_->isOpen()) {
         const auto atoms = internAtoms<2>(connection_->get(), {"_NET_SYSTEM_TRAY_S0", "MANAGER"});
         selection_ = atoms[0];

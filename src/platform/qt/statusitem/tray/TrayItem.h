@@ -23,7 +23,8 @@ class TrayItem final : public QObject {
     Q_OBJECT
 
 public:
-    TrayItem();
+    /// Looks for trays on `display`, or on the one that Qt is on when that is null.
+    explicit TrayItem(const char* display = nullptr);
 
     /// Whether the item should stand in a tray at all; it does not at first.
     void setWanted(bool wanted);
@@ -58,6 +59,7 @@ private:
     void leaveTray();
     void setState(TrayReport::State state);
 
+    const char* display_;
     std::unique_ptr<X11Client> connection_;  // only while it is wanted
     xcb_atom_t selection_ = XCB_ATOM_NONE;
     xcb_atom_t managerMessage_ = XCB_ATOM_NONE;

@@ -5,9 +5,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <QProcess>
-#include <QStandardPaths>
-
+#include "platform/qt/x11/PrivateXServer.h"
 #include "platform/qt/x11/X11.h"
 
 namespace zephrine {
@@ -22,40 +20,23 @@ TEST(PanelProbe, SeesNothingWithoutAnX11Display) {
 
 class PanelOnX11 : public testing::Test {
 protected:
-    QProcess server;
+    std::unique_ptr<PrivateXServer> server;
     xcb_connection_t* connection = nullptr;
     std::unique_ptr<X11PanelProbe> probe;
 
     void SetUp() override {
-        if (QStandardPaths::findExecutable("Xvfb").isEmpty()) {
+        if (!PrivateXServer::isInstalled()) {
             GTEST_SKIP() << "there is no Xvfb";
         }
-        server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "300x200x24", "-nolisten", "tcp"});
-        ASSERT_TRUE(server.waitForReadyRead());
-        const QByteArray display = ":" + server.readLine().trimmed();
-        connection = xcb_connect(display.constData(), nullptr);
-        ASSERT_EQ(xcb_connection_has_error(connection), 0);
+        server = std::make_unique<PrivateXServer>();
+        connection = server->connection();
         probe = std::make_unique<X11PanelProbe>(connection);
     }
-    void TearDown() override {
-        xcb_disconnect(connection);
-        server.kill();
-        server.waitForFinished();
-    }
 
-    xcb_screen_t* screen() { return xcb_setup_roots_iterator(xcb_get_setup(connection)).data; }
     xcb_window_t addWindow(std::uint32_t pixel, std::int16_t y) {
-        const xcb_window_t window = xcb_generate_id(connection);
-        const std::array<std::uint32_t, 2> values{pixel, 1};
-        xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, screen()->root, 0, y, 300, 20,
-                          0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                          XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT, values.data());
-        return window;
+        return server->addWindow(pixel, y, 300, 20);
     }
-    void show(xcb_window_t window) {
-        xcb_map_window(connection, window);
-        xcb_flush(connection);
-    }
+    void show(xcb_window_t window) { server->show(window); }
     xcb_window_t addPanel(std::uint32_t pixel, std::int16_t y, std::uint32_t pid) {
         const auto [type, dock, pidName] = internAtoms<3>(
             connection, {"_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DOCK", "_NET_WM_PID"});
@@ -129,11 +110,11 @@ TEST_F(PanelOnX11, IsAbsentWhileItIsHiddenAndWhenItIsGone) {
 TEST_F(PanelOnX11, IsSeenBesideTheWorkAreaWhereTheDesktopDrawsIt) {
     const auto [name] = internAtoms<1>(connection, {"_GTK_WORKAREAS_D0"});
     const std::array<std::uint32_t, 4> workArea{0, 0, 300, 160};
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, screen()->root, name, XCB_ATOM_CARDINAL,
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, server->screen().root, name, XCB_ATOM_CARDINAL,
                         32, workArea.size(), workArea.data());
-    paint(screen()->root, kLight);
+    paint(server->screen().root, kLight);
     EXPECT_EQ(probe->look(1000), Appearance::aqua);
-    paint(screen()->root, kDark);
+    paint(server->screen().root, kDark);
     EXPECT_EQ(probe->look(1000), Appearance::darkAqua);
     addPanel(kLight, 0, 1000);
     EXPECT_EQ(probe->look(1000), Appearance::aqua);
