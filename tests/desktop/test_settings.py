@@ -17,7 +17,7 @@ from program import (DesktopTestCase, click, dashboard, press_keys, press_keys_i
                      wait_for_item, wait_for_text)
 
 PANEL = (0, 0, 1000, 28)
-ROWS = ("RAM display", "Menu bar text", "Refresh interval")
+ROWS = ("RAM display", "Panel text", "Refresh interval")
 WHEEL_UP, WHEEL_DOWN = 4, 5
 
 

@@ -1,10 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """The item in a tray of X11 that is not always there for it."""
-import pathlib
 import signal
 import sys
-import time
 import unittest
 
 import accessibility
@@ -45,7 +43,7 @@ class TrayOfX11(DesktopTestCase):
             small = wait_until(lambda: strip(desktop, program), 10, "the strip")[3]
             panel = hosts.trayer(desktop)
             wait_until(lambda: width_in_tray(desktop) == small, 10, f"an item of {small} pixels")
-            settings.choose(desktop, program, "Menu bar text", "Large")
+            settings.choose(desktop, program, "Panel text", "Large")
             wait_until(lambda: width_in_tray(desktop) > small, 10, "a wider item")
             large = width_in_tray(desktop)
             panel.kill()
@@ -58,19 +56,6 @@ class TrayOfX11(DesktopTestCase):
             program = start(desktop)
             wait_until(lambda: strip(desktop, program), 30, "the strip")
 
-    def test_a_tray_that_no_longer_wants_the_item_is_asked_ever_more_seldom(self):
-        with self.desktop(window_manager=False) as desktop:
-            manager = start_tray(desktop)
-            start(desktop)
-            wait_for_item_in_tray(desktop)
-            time.sleep(11)  # long enough for the tray to be trusted
-            before = times_asked(desktop)
-            manager.send_signal(signal.SIGUSR2)
-            time.sleep(9)
-            asked = times_asked(desktop) - before
-            self.assertGreater(asked, 1)
-            self.assertLess(asked, 8, "twice a second, it would be 18 times")
-
 
 def start_tray(desktop, *options):
     return desktop.start(sys.executable, tray.__file__, *options)
@@ -80,11 +65,6 @@ def width_in_tray(desktop):
     """0 where no tray has the item."""
     window = item_in_tray(desktop)
     return window[1] if window else 0
-
-
-def times_asked(desktop):
-    log = desktop.logs / (pathlib.Path(sys.executable).name + ".log")
-    return log.read_text(encoding="utf-8").count("asked")
 
 
 def wait_for_item_in_tray(desktop, other_than=None):
