@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: MIT
 """tray.py [refusing]: a tray of X11 at the top left of the screen, which puts all windows out on
 SIGUSR1, as some panels do while they make themselves anew, and takes them in when they ask again;
-`refusing`, it puts them out at once. From SIGUSR2 on it destroys them instead. Prints a line each
-time that it is asked.
+`refusing`, it puts them out at once.
 https://specifications.freedesktop.org/systemtray-spec"""
 import ctypes
 import signal
@@ -30,7 +29,6 @@ class Tray:
         self._window = self._server.new_window(*ICON, colour=0xe8e8e8)
         self._x11.XMapWindow(self._display, self._window)
         self._icons = []
-        self._destroys = False
         self._announce()
 
     def _announce(self):
@@ -48,10 +46,6 @@ class Tray:
             self._x11.XReparentWindow(self._display, self._icons.pop(), self._root, 0, 0)
         self._x11.XSync(self._display, False)
 
-    def destroy_from_now_on(self):
-        self.put_out()
-        self._destroys = True
-
     def serve(self):
         event = ClientMessage()
         opcode = self._server.atom("_NET_SYSTEM_TRAY_OPCODE").value
@@ -61,11 +55,6 @@ class Tray:
                 self._take_in(ctypes.c_ulong(event.data[2]))
 
     def _take_in(self, icon):
-        print("asked", flush=True)
-        if self._destroys:
-            self._x11.XDestroyWindow(self._display, icon)
-            self._x11.XSync(self._display, False)
-            return
         self._icons.append(icon)
         self._x11.XReparentWindow(self._display, icon, self._window, 0, 0)
         self._x11.XResizeWindow(self._display, icon, *ICON)
@@ -74,13 +63,13 @@ class Tray:
 
 
 def main():
-    signals = {signal.SIGUSR1: Tray.put_out, signal.SIGUSR2: Tray.destroy_from_now_on}
+    signals = {signal.SIGUSR1}
     signal.pthread_sigmask(signal.SIG_BLOCK, signals)
     tray = Tray()
     while True:
         tray.serve()
-        if received := signal.sigtimedwait(signals, 0.02):
-            signals[received.si_signo](tray)
+        if signal.sigtimedwait(signals, 0.02):
+            tray.put_out()
         elif "refusing" in sys.argv:
             tray.put_out()
 
