@@ -1,109 +1,124 @@
 // SPDX-License-Identifier: MIT
 // What both threads use lives in one shared object, so that a thread that was let go still finds
-// it.
+// it. While the questions keep to their rhythm, the main thread wakes nobody: the other one wakes
+// by itself, once in each interval.
 #include "platform/linux/gpu/BackgroundSource.h"
 
-#include <chrono>
 #include <condition_variable>
-#include <cstdint>
 #include <mutex>
-#include <system_error>
 #include <utility>
 
-#include "platform/linux/base/LowPriority.h"
+#include "platform/linux/gpu/ReadingRhythm.h"
 
 namespace zephrine {
 
 namespace {
 
-using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
 
-constexpr milliseconds kPatience{20};
-constexpr milliseconds kWarmUp{250};
+constexpr std::chrono::milliseconds kWarmUp{250};
 
 }  // namespace
 
 struct BackgroundSource::Exchange {
     std::mutex mutex;
     std::condition_variable changed;
-    std::uint64_t asked = 0;     ///< calls so far
-    std::uint64_t answered = 0;  ///< the call that `percent` answers
-    std::optional<double> percent;
+    ReadingRhythm rhythm;
+    bool wanted = true;    ///< at once, rather than when the rhythm says
+    bool resting = false;  ///< until the next question
     bool stopping = false;
-    bool ended = false;
+    std::optional<Clock::time_point> busySince = Clock::now();  ///< the reading that is under way
+    std::optional<Clock::time_point> readAt;                    ///< when `percent` was asked for
+    std::optional<double> percent;
+
+    void run(GPUSource& slow);
+    bool waitForTurn(std::unique_lock<std::mutex>& lock);
 };
 
-BackgroundSource::BackgroundSource(std::unique_ptr<GPUSource> slow,
-                                   std::shared_ptr<const void> presence)
-    : exchange_(std::make_shared<Exchange>()),
-      thread_(
-          [exchange = exchange_, slow = std::move(slow), presence = std::move(presence)]() mutable {
-              becomeLowPriorityThread("zephrine-gpu");
-              run(*exchange, *slow);
-              slow.reset();
-              presence.reset();
-              const std::lock_guard lock(exchange->mutex);
-              exchange->ended = true;
-              exchange->changed.notify_all();
-          }) {}
+BackgroundSource::BackgroundSource(GPUSourceMaker make, LooseThreads& threads, Duration patience)
+    : make_(std::move(make)),
+      threads_(threads),
+      patience_(patience),
+      exchange_(std::make_shared<Exchange>()) {}
 
 BackgroundSource::~BackgroundSource() {
-    bool ended = false;
-    {
-        std::unique_lock lock(exchange_->mutex);
-        exchange_->stopping = true;
-        exchange_->changed.notify_all();
-        ended = exchange_->changed.wait_for(lock, kPatience, [this] { return exchange_->ended; });
-    }
-    if (ended) {
-        thread_.join();
-    } else {
-        thread_.detach();
-    }
+    letGoOfThread();
 }
 
 std::optional<double> BackgroundSource::utilization() {
+    const auto now = Clock::now();
+    if (thread_ && isStuck(now)) {
+        letGoOfThread();
+        patience_ *= 2;
+    }
+    if (!thread_) {
+        start();
+    }
     const std::lock_guard lock(exchange_->mutex);
-    const bool fresh = exchange_->asked - exchange_->answered <= 1;
-    ++exchange_->asked;
-    exchange_->changed.notify_all();
+    exchange_->rhythm.noteQuestion(now);
+    const bool fresh = exchange_->readAt && exchange_->rhythm.isFresh(*exchange_->readAt);
+    exchange_->wanted = exchange_->wanted || !fresh;
+    if (exchange_->wanted || exchange_->resting) {
+        exchange_->changed.notify_all();
+    }
     return fresh ? exchange_->percent : std::nullopt;
 }
 
-void BackgroundSource::run(Exchange& exchange, GPUSource& slow) {
-    std::unique_lock lock(exchange.mutex);
-    const auto wanted = [&exchange] {
-        return exchange.stopping || exchange.asked != exchange.answered;
-    };
+void BackgroundSource::start() {
+    auto next = std::make_shared<Exchange>();
+    next->rhythm = exchange_->rhythm;
+    exchange_ = std::move(next);
+    thread_ = threads_.start([exchange = exchange_, make = make_] {
+        const auto slow = make();
+        exchange->run(*slow);
+    });
+}
+
+void BackgroundSource::letGoOfThread() {
+    {
+        const std::lock_guard lock(exchange_->mutex);
+        exchange_->stopping = true;
+        exchange_->changed.notify_all();
+    }
+    thread_.reset();
+}
+
+bool BackgroundSource::isStuck(Clock::time_point now) const {
+    const std::lock_guard lock(exchange_->mutex);
+    return exchange_->busySince && now - *exchange_->busySince > patience_;
+}
+
+void BackgroundSource::Exchange::run(GPUSource& slow) {
     // The first figure of many sources is none; taken a moment before, it costs nobody an interval.
-    for (bool warm = false;; warm = true) {
-        exchange.changed.wait(lock, wanted);
-        if (exchange.stopping) {
-            return;
-        }
-        const std::uint64_t request = exchange.asked;
+    slow.utilization();
+    std::unique_lock lock(mutex);
+    busySince.reset();
+    changed.wait_for(lock, kWarmUp, [this] { return stopping; });
+    while (waitForTurn(lock)) {
+        const auto begin = Clock::now();
+        wanted = false;
+        busySince = begin;
         lock.unlock();
-        const auto percent = slow.utilization();
+        const auto reading = slow.utilization();
         lock.lock();
-        if (warm) {
-            exchange.percent = percent;
-            exchange.answered = request;
-        } else {
-            exchange.changed.wait_for(lock, kWarmUp, [&exchange] { return exchange.stopping; });
-        }
+        busySince.reset();
+        readAt = begin;
+        percent = reading;
     }
 }
 
-std::unique_ptr<GPUSource> BackgroundThreads::adopt(std::unique_ptr<GPUSource> source) {
-    constexpr long kMost = 8;
-    if (presence_.use_count() > kMost) {
-        return nullptr;
+bool BackgroundSource::Exchange::waitForTurn(std::unique_lock<std::mutex>& lock) {
+    while (!stopping && !wanted) {
+        const auto next = rhythm.nextReading(Clock::now());
+        resting = !next;
+        if (!next) {
+            changed.wait(lock);
+        } else if (changed.wait_until(lock, *next) == std::cv_status::timeout) {
+            break;
+        }
     }
-    try {
-        return std::make_unique<BackgroundSource>(std::move(source), presence_);
-    } catch (const std::system_error&) {
-        return nullptr;
-    }
+    resting = false;
+    return !stopping;
 }
 
 }  // namespace zephrine

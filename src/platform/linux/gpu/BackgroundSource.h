@@ -1,46 +1,45 @@
 // SPDX-License-Identifier: MIT
-// A source that may take its time, or never come back from its driver, on a thread of its own: the
-// main thread takes the latest figure and asks for the next one, and never waits.
+// A source on a thread of its own, since it may take its time, or never come back from its driver.
+// It is read a little before the main thread asks, which takes the figure and never waits.
 #pragma once
 
+#include <chrono>
 #include <memory>
-#include <thread>
 
+#include "platform/linux/base/LooseThreads.h"
 #include "platform/linux/gpu/GPUSource.h"
 
 namespace zephrine {
 
 class BackgroundSource final : public GPUSource {
 public:
-    /// The thread keeps `presence` for as long as it runs.
-    BackgroundSource(std::unique_ptr<GPUSource> slow, std::shared_ptr<const void> presence);
+    using Duration = std::chrono::steady_clock::duration;
+
+    /// Makes its source, and reads it, on one of `threads`, which outlive it. A thread that has
+    /// been at one reading for `patience` is let go of, and a source made anew has another try; the
+    /// next one that gets stuck is given twice the time.
+    BackgroundSource(GPUSourceMaker make, LooseThreads& threads,
+                     Duration patience = std::chrono::seconds(30));
     /// Lets go of a thread that does not end soon.
     ~BackgroundSource() override;
     BackgroundSource(const BackgroundSource&) = delete;
     BackgroundSource& operator=(const BackgroundSource&) = delete;
 
-    /// The answer to the previous call, or to the one before it when that is still to come; absent
-    /// when both are, since an older figure no longer holds.
+    /// A figure that is not older than the time between two calls; absent when there is none, as at
+    /// the first call, or when the system grants no thread.
     std::optional<double> utilization() override;
-    [[nodiscard]] bool mayBlock() const override { return false; }
 
 private:
     struct Exchange;
-    static void run(Exchange& exchange, GPUSource& slow);
+    void start();
+    void letGoOfThread();
+    [[nodiscard]] bool isStuck(std::chrono::steady_clock::time_point now) const;
 
+    GPUSourceMaker make_;
+    LooseThreads& threads_;
+    Duration patience_;
     std::shared_ptr<Exchange> exchange_;
-    std::thread thread_;
-};
-
-/// Makes background sources and keeps count of their threads: one that is stuck in its driver is
-/// lost for good, and a machine that wakes a thousand times must not collect a thousand of them.
-class BackgroundThreads {
-public:
-    /// Null when too many threads are stuck or the system grants none.
-    std::unique_ptr<GPUSource> adopt(std::unique_ptr<GPUSource> source);
-
-private:
-    std::shared_ptr<const int> presence_ = std::make_shared<const int>(0);
+    std::unique_ptr<LooseThread> thread_;
 };
 
 }  // namespace zephrine

@@ -2,6 +2,8 @@
 // How busy one graphics card is, by its driver's own account. Each driver has its own small class.
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 
 namespace zephrine {
@@ -13,9 +15,10 @@ public:
     /// Percent; absent when it cannot be read now. A source that counts busy time has its first
     /// figure at the second call. Called by one thread at a time, not always the main one.
     virtual std::optional<double> utilization() = 0;
-
-    /// Whether `utilization` may wait for the driver.
-    [[nodiscard]] virtual bool mayBlock() const { return true; }
 };
+
+/// Opens a source, never null; by the thread that then reads it. May be called again, by another
+/// thread, once that one is stuck.
+using GPUSourceMaker = std::function<std::unique_ptr<GPUSource>()>;
 
 }  // namespace zephrine

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What one small file tells is read on the main thread, everything else in the background.
+// See the header.
 #include "platform/linux/gpu/GPUSources.h"
 
 #include <algorithm>
@@ -26,10 +26,13 @@ constexpr std::array<std::string_view, 9> kFdinfoDrivers{
     "etnaviv",                                // Vivante
 };
 
-std::unique_ptr<GPUSource> makeSource(const GraphicsCard& card, const GPUPlaces& places,
-                                      const SecondsClock& clock, BackgroundThreads& threads) {
-    const auto whileAwake = [&](auto make) {
-        return std::make_unique<AwakeSource>(card, std::move(make), clock);
+/// Empty for a driver that tells nothing.
+GPUSourceMaker findSource(const GraphicsCard& card, const GPUPlaces& places,
+                          const SecondsClock& clock) {
+    const auto whileAwake = [&](auto make) -> GPUSourceMaker {
+        return [card, clock, make = std::move(make)] {
+            return std::make_unique<AwakeSource>(card, make, clock);
+        };
     };
     const auto fdinfo = [card, clock, proc = places.proc] {
         return std::make_unique<FdinfoSource>(proc, card, clock);
@@ -41,39 +44,37 @@ std::unique_ptr<GPUSource> makeSource(const GraphicsCard& card, const GPUPlaces&
         return whileAwake([card] { return std::make_unique<V3DSource>(card.device); });
     }
     if (card.driver == "i915") {
-        return threads.adopt(whileAwake([=]() -> std::unique_ptr<GPUSource> {
+        return whileAwake([=]() -> std::unique_ptr<GPUSource> {
             if (auto pmu = I915PMU::open(places.sys, card.address, places.openPerf)) {
                 return pmu;
             }
             return fdinfo();
-        }));
+        });
     }
     if (std::ranges::find(kFdinfoDrivers, card.driver) != kFdinfoDrivers.end()) {
-        return threads.adopt(whileAwake(fdinfo));
+        return whileAwake(fdinfo);
     }
-    return nullptr;
+    return {};
 }
 
 }  // namespace
 
-std::vector<std::unique_ptr<GPUSource>> makeGPUSources(const std::vector<GraphicsCard>& cards,
-                                                       const GPUPlaces& places,
-                                                       const SecondsClock& clock,
-                                                       BackgroundThreads& threads) {
-    std::vector<std::unique_ptr<GPUSource>> sources;
+std::vector<GPUSourceMaker> findGPUSources(const std::vector<GraphicsCard>& cards,
+                                           const GPUPlaces& places, const SecondsClock& clock) {
+    std::vector<GPUSourceMaker> sources;
     std::vector<GraphicsCard> nvidia;
     for (const GraphicsCard& card : cards) {
         if (card.driver == "nvidia") {
             nvidia.push_back(card);
-        } else if (auto source = makeSource(card, places, clock, threads)) {
+        } else if (auto source = findSource(card, places, clock)) {
             sources.push_back(std::move(source));
         }
     }
     if (!nvidia.empty()) {
-        sources.push_back(
-            threads.adopt(std::make_unique<NvidiaSource>(nvidia, places.nvml, clock)));
+        sources.emplace_back([nvidia, library = places.nvml, clock] {
+            return std::make_unique<NvidiaSource>(nvidia, library, clock);
+        });
     }
-    std::erase(sources, nullptr);
     return sources;
 }
 

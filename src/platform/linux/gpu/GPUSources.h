@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one place where a driver's name leads to its source: a new maker's goes into `makeSource`.
+// The one place where a driver's name leads to its source: a new maker's goes into `findSource`.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "platform/linux/base/MonotonicClock.h"
-#include "platform/linux/gpu/BackgroundSource.h"
 #include "platform/linux/gpu/GPUSource.h"
 #include "platform/linux/gpu/GraphicsCards.h"
 #include "platform/linux/gpu/PerfEvent.h"
@@ -22,11 +21,9 @@ struct GPUPlaces {
     PerfOpener openPerf = openPerfEvent;
 };
 
-/// The sources of those cards whose drivers publish something that this program can read. `clock`
-/// is read on several threads.
-std::vector<std::unique_ptr<GPUSource>> makeGPUSources(const std::vector<GraphicsCard>& cards,
-                                                       const GPUPlaces& places,
-                                                       const SecondsClock& clock,
-                                                       BackgroundThreads& threads);
+/// For those cards whose drivers publish something that this program can read. Each source may wait
+/// for its driver. `clock` is read on several threads.
+std::vector<GPUSourceMaker> findGPUSources(const std::vector<GraphicsCard>& cards,
+                                           const GPUPlaces& places, const SecondsClock& clock);
 
 }  // namespace zephrine

@@ -1,13 +1,23 @@
 // SPDX-License-Identifier: MIT
-// Discovery, and the drivers' sources as services.
+// Discovery, and the drivers' sources as services. Whatever a driver takes its time for, or never
+// answers, is read in the background.
 #include "platform/linux/gpu/LinuxGPURegistry.h"
 
 #include <utility>
 
 namespace zephrine {
 
+namespace {
+
+/// One for each card, and some to spare for those that are stuck.
+constexpr long kMostThreads = 8;
+
+}  // namespace
+
 LinuxGPURegistry::LinuxGPURegistry(GPUPlaces places, SecondsClock clock)
-    : places_(std::move(places)), clock_(std::move(clock)) {}
+    : places_(std::move(places)),
+      clock_(std::move(clock)),
+      threads_("zephrine-gpu", kMostThreads) {}
 
 std::optional<std::vector<GPUService>> LinuxGPURegistry::IOServiceGetMatchingServices(
     std::string_view name) {
@@ -20,7 +30,7 @@ std::optional<std::vector<GPUService>> LinuxGPURegistry::IOServiceGetMatchingSer
         return std::nullopt;
     }
     // A card whose driver tells nothing is no service: nobody needs to ask it each second.
-    for (auto& source : makeGPUSources(*found, places_, clock_, threads_)) {
+    for (auto& source : findGPUSources(*found, places_, clock_)) {
         services.push_back(addCard(std::move(source)));
     }
     return services;
@@ -33,7 +43,7 @@ const Property* LinuxGPURegistry::IORegistryEntryCreateCFProperty(GPUService ser
         return nullptr;
     }
     Card& card = found->second;
-    const auto utilization = read(card);
+    const auto utilization = card.source->utilization();
     if (!utilization) {
         return nullptr;
     }
@@ -45,34 +55,22 @@ void LinuxGPURegistry::IOObjectRelease(GPUService service) {
     cards_.erase(service);
 }
 
-GPUService LinuxGPURegistry::addCard(std::unique_ptr<GPUSource> source) {
+GPUService LinuxGPURegistry::addCard(GPUSourceMaker source) {
     do {
         ++lastService_;
     } while (lastService_ == 0 || cards_.contains(lastService_));
-    Card& card = cards_
-                     .emplace(lastService_, Card{.source = std::move(source),
-                                                 .statistics = PropertyDictionary(),
-                                                 .utilization = nullptr})
-                     .first->second;
+    Card& card =
+        cards_
+            .emplace(lastService_,
+                     Card{.source = std::make_unique<BackgroundSource>(std::move(source), threads_),
+                          .statistics = PropertyDictionary(),
+                          .utilization = nullptr})
+            .first->second;
     auto& value = std::get<PropertyDictionary>(card.statistics)["Device Utilization %"];
     value = 0.0;
     card.utilization = &std::get<double>(value);
-    read(card);  // the first figure is dropped, here rather than at the first refresh
+    card.source->utilization();  // opens the card now rather than at the first refresh
     return lastService_;
-}
-
-/// A source that was slow once goes on in the background: the refresh never waits for it again.
-std::optional<double> LinuxGPURegistry::read(Card& card) {
-    constexpr double kSlow = 0.02;
-    if (!card.source) {
-        return std::nullopt;
-    }
-    const double begin = clock_();
-    const auto utilization = card.source->utilization();
-    if (card.source->mayBlock() && clock_() - begin > kSlow) {
-        card.source = threads_.adopt(std::move(card.source));
-    }
-    return utilization;
 }
 
 }  // namespace zephrine

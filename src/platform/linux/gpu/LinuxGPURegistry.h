@@ -9,7 +9,6 @@
 #include "platform/GPURegistry.h"
 #include "platform/linux/base/MonotonicClock.h"
 #include "platform/linux/gpu/BackgroundSource.h"
-#include "platform/linux/gpu/GPUSource.h"
 #include "platform/linux/gpu/GPUSources.h"
 
 namespace zephrine {
@@ -27,17 +26,16 @@ public:
 
 private:
     struct Card {
-        std::unique_ptr<GPUSource> source;  ///< null when it had to be given up
+        std::unique_ptr<BackgroundSource> source;
         Property statistics;
         double* utilization;  ///< the one entry of `statistics`, updated in place
     };
 
-    GPUService addCard(std::unique_ptr<GPUSource> source);
-    std::optional<double> read(Card& card);
+    GPUService addCard(GPUSourceMaker source);
 
     GPUPlaces places_;
     SecondsClock clock_;
-    BackgroundThreads threads_;
+    LooseThreads threads_;
     std::map<GPUService, Card> cards_;
     GPUService lastService_ = 0;
 };

@@ -6,9 +6,12 @@
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
-#include <vector>
+#include <thread>
+#include <utility>
 
-#include "platform/linux/Eventually.h"
+#include "platform/linux/FakeTree.h"
+#include "platform/linux/HangingFile.h"
+#include "platform/linux/ThreadShortage.h"
 
 namespace zephrine {
 namespace {
@@ -76,12 +79,14 @@ private:
 
 class BackgroundSourceTest : public ::testing::Test {
 protected:
-    BackgroundSourceTest() { start(); }
     void TearDown() override { driver->setStuck(false); }
 
-    void start() { source = threads.adopt(std::make_unique<SlowSource>(driver)); }
+    std::unique_ptr<GPUSource> make(std::chrono::milliseconds patience = std::chrono::hours(1)) {
+        return std::make_unique<BackgroundSource>(
+            [driver = driver] { return std::make_unique<SlowSource>(driver); }, threads, patience);
+    }
     [[nodiscard]] bool isStuck() const { return driver->waiting() > 0; }
-    /// Answers one question and waits for it.
+    /// The source's figure once it is `percent`.
     std::optional<double> next(double percent) {
         driver->setPercent(percent);
         return eventually([this, percent] {
@@ -89,10 +94,17 @@ protected:
             return answer == percent ? answer : std::nullopt;
         });
     }
+    /// Asks so often that it can learn the interval.
+    void askInRhythm() {
+        for (int question = 0; question < 3; ++question) {
+            source->utilization();
+            std::this_thread::sleep_for(std::chrono::milliseconds(120));
+        }
+    }
 
     std::shared_ptr<Driver> driver = std::make_shared<Driver>();
-    BackgroundThreads threads;
-    std::unique_ptr<GPUSource> source;
+    LooseThreads threads{"zephrine-test", 8};
+    std::unique_ptr<GPUSource> source = make();
 };
 
 TEST_F(BackgroundSourceTest, AsksOnAnotherThread) {
@@ -106,30 +118,73 @@ TEST_F(BackgroundSourceTest, GivesTheLatestFigure) {
     EXPECT_EQ(next(60), 60.0);
 }
 
-TEST_F(BackgroundSourceTest, AsksNothingUnlessItIsAskedItself) {
-    source->utilization();
-    EXPECT_TRUE(eventually([this] { return driver->calls() == 2; }));
-    source->utilization();
-    EXPECT_TRUE(eventually([this] { return driver->calls() == 3; }));
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    EXPECT_EQ(driver->calls(), 3);
+TEST_F(BackgroundSourceTest, AsksByItselfOnceItKnowsTheIntervalAndStopsWhenNobodyAsksIt) {
+    askInRhythm();
+    const int before = driver->calls();
+    EXPECT_TRUE(eventually([&] { return driver->calls() >= before + 3; }));
+    EXPECT_TRUE(eventually([this, last = -1]() mutable {
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        return std::exchange(last, driver->calls()) == last;
+    }));
+    EXPECT_EQ(next(50), 50.0);
 }
 
-TEST_F(BackgroundSourceTest, KeepsAFigureForOneIntervalMoreWhenTheNextOneIsLate) {
+TEST_F(BackgroundSourceTest, HasNoFigureWhileItsDriverIsStuckAndOneAgainAfterwards) {
     ASSERT_EQ(next(40), 40.0);
-    ASSERT_TRUE(eventually([this] { return !isStuck(); }));
     driver->setStuck(true);
-    // Answered already, or on its way: one of these questions meets the stuck driver.
     ASSERT_TRUE(eventually([this] {
         source->utilization();
         return isStuck();
     }));
     source->utilization();
-    source->utilization();
     EXPECT_EQ(source->utilization(), std::nullopt);
     EXPECT_EQ(source->utilization(), std::nullopt);
     driver->setStuck(false);
     EXPECT_EQ(next(70), 70.0);
+}
+
+TEST_F(BackgroundSourceTest, TriesAnewInAnotherThreadWhenOneHasBeenStuckForLong) {
+    source = make(std::chrono::milliseconds(50));
+    ASSERT_EQ(next(40), 40.0);
+    driver->setStuck(true);
+    ASSERT_TRUE(eventually([this] {
+        source->utilization();
+        return driver->waiting() == 2;
+    }));
+    driver->setStuck(false);
+    EXPECT_EQ(next(70), 70.0);
+}
+
+TEST_F(BackgroundSourceTest, GetsOverAFileThatNeverAnswers) {
+    struct FileSource final : GPUSource {
+        explicit FileSource(const testing::HangingFile& sensor) : file(sensor) {}
+        std::optional<double> utilization() override {
+            file.read();
+            return 30;
+        }
+        const testing::HangingFile& file;
+    };
+    const testing::FakeTree tree;
+    const testing::HangingFile file(tree.path("gpu_busy_percent"));
+    std::atomic<bool> opened = false;
+    BackgroundSource hanging(
+        [&]() -> std::unique_ptr<GPUSource> {
+            if (opened.exchange(true)) {
+                return std::make_unique<SlowSource>(driver);
+            }
+            return std::make_unique<FileSource>(file);
+        },
+        threads, std::chrono::milliseconds(50));
+    EXPECT_TRUE(eventually([&] { return hanging.utilization() == 40; }));
+}
+
+TEST_F(BackgroundSourceTest, HasNoFigureWithoutAThreadAndAsksForOneAgain) {
+    {
+        const testing::ThreadShortage shortage;
+        EXPECT_EQ(source->utilization(), std::nullopt);
+        EXPECT_EQ(source->utilization(), std::nullopt);
+    }
+    EXPECT_EQ(next(40), 40.0);
 }
 
 TEST_F(BackgroundSourceTest, EndsItsThreadWithItself) {
@@ -150,18 +205,15 @@ TEST_F(BackgroundSourceTest, LetsGoOfAThreadThatIsStuckInItsDriver) {
 
 TEST_F(BackgroundSourceTest, StartsNoMoreThreadsWhenTooManyAreStuck) {
     driver->setStuck(true);
-    int started = 0;
-    for (; source && started < 100; ++started) {
+    for (int stuck = 1; stuck <= 8; ++stuck) {
         source->utilization();
-        ASSERT_TRUE(eventually([this, started] { return driver->waiting() == started + 1; }));
-        start();
+        ASSERT_TRUE(eventually([this, stuck] { return driver->waiting() == stuck; }));
+        source = make();
     }
-    EXPECT_EQ(started, 8);
+    EXPECT_EQ(source->utilization(), std::nullopt);
+    EXPECT_EQ(driver->waiting(), 8);
     driver->setStuck(false);
-    EXPECT_TRUE(eventually([this] {
-        start();
-        return source != nullptr;
-    }));
+    EXPECT_EQ(next(40), 40.0);
 }
 
 }  // namespace
