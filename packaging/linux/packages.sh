@@ -6,7 +6,7 @@
 # shellcheck disable=SC2034  # the lists are used by the scripts that source this file
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev libxcb1-dev nlohmann-json3-dev
+    qt6-base-dev libglib2.0-dev libxcb1-dev nlohmann-json3-dev
     fonts-dejavu-core
 )
 # A private desktop for machines without one: tests/desktop/desktop.py.
@@ -19,7 +19,7 @@ desktop_packages=(
 
 # shellcheck disable=SC2034
 test_packages=(
-    libgtest-dev libgmock-dev clang-format-14
+    libgtest-dev libgmock-dev clang-format
     locales ccache procps python3 strace
     fonts-cantarell fonts-inter
 )
@@ -54,7 +54,7 @@ heavy_panel_packages() {
 # Checking the macOS back end against declarations: tests/macos/check.
 # shellcheck disable=SC2034
 macos_packages=(
-    clang-14 lld-14 llvm-14 libc++-14-dev libc++abi-14-dev
+    clang lld llvm libc++-dev libc++abi-dev
     libc6-dev-arm64-cross
 )
 
