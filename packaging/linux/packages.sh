@@ -19,7 +19,7 @@ desktop_packages=(
 
 # shellcheck disable=SC2034
 test_packages=(
-    libgtest-dev libgmock-dev clang-format-14
+    libgtest-dev libgmock-dev clang-format
     locales ccache procps python3 strace
     fonts-cantarell fonts-inter
 )
@@ -54,7 +54,7 @@ heavy_panel_packages() {
 # Checking the macOS back end against declarations: tests/macos/check.
 # shellcheck disable=SC2034
 macos_packages=(
-    clang-14 lld-14 llvm-14 libc++-14-dev libc++abi-14-dev
+    clang lld llvm libc++-dev libc++abi-dev
     libc6-dev-arm64-cross
 )
 

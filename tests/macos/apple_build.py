@@ -36,7 +36,8 @@ class AppleBuild:
         return run(
             ["cmake", "--fresh", "-S", str(ROOT), "-B", str(self.folder), "-G", "Ninja",
              f"--toolchain={TOOLCHAIN}", f"-DZEPHRINE_APPLE_ARCH={self.arch}",
-             "-DZEPHRINE_TESTS=OFF", "-DCMAKE_BUILD_TYPE=Debug", *caching]
+             "-DZEPHRINE_TESTS=OFF", "-DCMAKE_BUILD_TYPE=Debug",
+             "-DCMAKE_COMPILE_WARNING_AS_ERROR=ON", *caching]
         )
 
     def build(self) -> str | None:

@@ -11,7 +11,9 @@ list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZEPHRINE_APPLE_ARCH ZEPHRINE_ST
 set(declarations ${CMAKE_CURRENT_LIST_DIR}/../macos-declarations)
 cmake_path(NORMAL_PATH declarations)
 set(ZEPHRINE_STUBS ${declarations}/stubs CACHE PATH "Root of the link stubs")
-set(llvm /usr/lib/llvm-14)
+# One version of everything: the one that the distribution's commands without a version lead to.
+execute_process(COMMAND llvm-config --prefix
+  OUTPUT_VARIABLE llvm OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 if(ZEPHRINE_APPLE_ARCH STREQUAL "arm64")
   set(c_headers /usr/aarch64-linux-gnu/include)
 else()
