@@ -8,16 +8,16 @@ namespace zephrine {
 
 namespace {
 
-QDBusConnection open(const QString& address, const void* owner) {
-    const QString name =
-        "zephrine-status-item-" + QString::number(reinterpret_cast<std::uintptr_t>(owner));
+QDBusConnection open(const QString& address, std::uintptr_t owner) {
+    const QString name = "zephrine-status-item-" + QString::number(owner);
     return address.isEmpty() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, name)
                              : QDBusConnection::connectToBus(address, name);
 }
 
 }  // namespace
 
-ItemConnection::ItemConnection(const QString& address) : bus_(open(address, this)) {}
+ItemConnection::ItemConnection(const QString& address)
+    : bus_(open(address, reinterpret_cast<std::uintptr_t>(this))) {}
 
 ItemConnection::~ItemConnection() {
     QDBusConnection::disconnectFromBus(bus_.name());
