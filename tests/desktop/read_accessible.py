@@ -12,12 +12,18 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402  # pylint: disable=wrong-import-position
 
 
+def role_of(element):
+    """What version 2.56 of the library and newer ones call it."""
+    role = element.get_role_name()
+    return "button" if role == "push button" else role
+
+
 def described(element):
     """An element and those within it; None for one that has gone while it was read."""
     try:
         states = element.get_state_set()
         children = (element.get_child_at_index(i) for i in range(element.get_child_count()))
-        return {"role": element.get_role_name(), "name": element.get_name(),
+        return {"role": role_of(element), "name": element.get_name(),
                 "description": element.get_description(), "value": value(element),
                 "box": box(element), "actions": actions(element),
                 "states": sorted(s.value_nick for s in states.get_states()),
@@ -47,7 +53,7 @@ def actions(element):
 
 def act(element, role, name, action):
     """Whether the element, or one within it, is that one and has done its action."""
-    if element.get_role_name() == role and element.get_name() == name:
+    if role_of(element) == role and element.get_name() == name:
         return element.get_action_iface().do_action(actions(element).index(action))
     children = (element.get_child_at_index(i) for i in range(element.get_child_count()))
     return any(act(child, role, name, action) for child in children if child)

@@ -32,7 +32,7 @@ ELEMENTS = [
     *[("label", ".+"), ("label", r"\d+\.\d%")] * 5,
     ("label", "Accessible processes · CPU share of total capacity"),
     ("separator", ""),
-    ("push button", "Settings…"), ("push button", "Quit"),
+    ("button", "Settings…"), ("button", "Quit"),
     ("label", "Updates every 1s · Everything stays on your computer"),
 ]
 
@@ -107,7 +107,7 @@ class ScreenReader(AccessibilityTestCase):
 
     def test_windows_are_told_as_windows(self):
         with self.opened():
-            accessibility.act(self.desk, self.program, "push button", "Settings…", "Press")
+            accessibility.act(self.desk, self.program, "button", "Settings…", "Press")
             window = wait_until(lambda: self.window("Zephrine Settings"), 5, "the settings")
             self.assertIn(window["role"], ("window", "frame"))
         with self.opened():
@@ -169,7 +169,7 @@ class Keyboard(AccessibilityTestCase):
     def test_the_focus_shows_once_the_keyboard_is_used(self):
         with self.opened():
             wait_until(lambda: self.focused() == "CPU", 5, "the focus at the first control")
-            x, y, width, height = find(self.elements(), "push button", "Settings…")["box"]
+            x, y, width, height = find(self.elements(), "button", "Settings…")["box"]
             box = (x, y, x + width, y + height)
             before = self.desk.picture(box)
             self.move_to("Settings…")

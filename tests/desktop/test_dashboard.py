@@ -161,14 +161,14 @@ class Controls(DashboardTestCase):
     def test_settings_open_and_the_dashboard_closes(self):
         with self.running():
             self.open()
-            click(self.desk, middle(find(self.elements(), "push button", "Settings…")))
+            click(self.desk, middle(find(self.elements(), "button", "Settings…")))
             wait_until(lambda: self.window_called("Zephrine Settings"), 5, "the settings")
             self.wait_until_closed()
 
     def test_quit_ends_the_program_and_takes_the_item_away(self):
         with self.running():
             self.open()
-            click(self.desk, middle(find(self.elements(), "push button", "Quit")))
+            click(self.desk, middle(find(self.elements(), "button", "Quit")))
             self.assertEqual(self.program.wait(timeout=10), 0)
             self.assertIsNone(self.bus.item_of(self.program.pid))
             wait_until(lambda: not changed_box(self.empty, self.desk.picture(PANEL)), 5,

@@ -128,7 +128,7 @@ class Settings(SettingsTestCase):
             self.close()
             self.item.activate(0, 0)
             wait_until(lambda: dashboard(self.desk, self.program), 5, "the dashboard")
-            accessibility.act(self.desk, self.program, "push button", "Settings…", "Press")
+            accessibility.act(self.desk, self.program, "button", "Settings…", "Press")
             settings.wait_for_window(self.desk, self.program)
             wait_until(lambda: not dashboard(self.desk, self.program), 5, "the dashboard's end")
 
