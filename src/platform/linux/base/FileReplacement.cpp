@@ -2,6 +2,9 @@
 // The new contents go to a temporary file in the same folder, to the disk, and only then under the
 // real name. The temporary name is fixed, so that a writer that is killed leaves at most one file
 // behind, which the next one clears away; a lock on it tells a leftover from another's work.
+//
+// GLib's g_file_set_contents_full would replace a symbolic link in place of the file that it leads
+// to, leave a file behind for each writer that is killed, under ever new names, and make no folders.
 #include "platform/linux/base/FileReplacement.h"
 
 #include <fcntl.h>
