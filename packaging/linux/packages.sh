@@ -6,7 +6,7 @@
 # shellcheck disable=SC2034  # the lists are used by the scripts that source this file
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qt6-base-dev libxcb1-dev nlohmann-json3-dev
+    qt6-base-dev libglib2.0-dev libxcb1-dev nlohmann-json3-dev
     fonts-dejavu-core
 )
 # A private desktop for machines without one: tests/desktop/desktop.py.

@@ -13,7 +13,7 @@ using namespace zephrine;
 
 extern "C" int LLVMFuzzerTestOneInput(const char* data, std::size_t size) {
     const std::string_view text(data, size);
-    programOfExec(text);
+    programOfExec(std::string(text));
     const auto entry = DesktopEntry::parse(text);
     if (!entry) {
         return 0;

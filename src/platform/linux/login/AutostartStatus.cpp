@@ -28,10 +28,10 @@ bool isSwitchedOff(const DesktopEntry& entry) {
     if (entry.boolean("Hidden") == true || entry.boolean("X-systemd-skip") == true) {
         return true;
     }
-    return std::any_of(entry.values().begin(), entry.values().end(), [&entry](const auto& value) {
-        const std::string& key = value.first;
+    const std::vector<std::string> keys = entry.keys();
+    return std::any_of(keys.begin(), keys.end(), [&entry](const std::string& key) {
         return key.starts_with("X-") && endsWithIgnoringCase(key, "-autostart-enabled") &&
-               entry.boolean(key) == false;
+               entry.boolean(key.c_str()) == false;
     });
 }
 

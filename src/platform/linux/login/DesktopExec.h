@@ -4,12 +4,11 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace zephrine {
 
 /// The program of an "Exec" value: its first argument, unquoted. Absent when there is none or when
 /// the quoting is wrong.
-std::optional<std::string> programOfExec(std::string_view exec);
+std::optional<std::string> programOfExec(const std::string& exec);
 
 }  // namespace zephrine

@@ -45,7 +45,7 @@ TEST(AutostartStatus, IsNotFooledByOtherKeysThatAreFalse) {
 TEST(AutostartStatus, IsNotFoundWithoutAProgramThatCanBeRun) {
     for (const char* const lines :
          {"", "Exec=", "Exec=other", "Exec=\"zephrine", "Exec=zephrine\nTryExec=other",
-          "Exec=zephrine\nType=Link", "Exec=zep\\hrine"}) {
+          "Exec=zephrine\nType=Link", "Exec=zephrine 'x"}) {
         EXPECT_EQ(status(lines), LoginItemStatus::notFound) << lines;
     }
 }

@@ -48,7 +48,7 @@ TEST(DesktopEntry, IsNoneWhenAnyLineIsMalformed) {
 
 TEST(DesktopEntry, MayBeEmpty) {
     ASSERT_TRUE(DesktopEntry::parse(""));
-    EXPECT_THAT(DesktopEntry::parse("# nothing\n\n[Other]\nHidden=true")->values(), IsEmpty());
+    EXPECT_THAT(DesktopEntry::parse("# nothing\n\n[Other]\nHidden=true")->keys(), IsEmpty());
 }
 
 TEST(DesktopEntry, TakesTheLastOfEqualKeysAndTheLastLineWithoutAnEnd) {
@@ -57,10 +57,18 @@ TEST(DesktopEntry, TakesTheLastOfEqualKeysAndTheLastLineWithoutAnEnd) {
 
 TEST(DesktopEntry, ResolvesEscapesOfStrings) {
     EXPECT_EQ(entry(R"(Exec=\sa\tb\nc\rd\\e)").string("Exec"), " a\tb\nc\rd\\e");
-    EXPECT_FALSE(entry(R"(Exec=a\q)").string("Exec"));
-    EXPECT_FALSE(entry("Exec=a\\").string("Exec"));
     EXPECT_FALSE(entry("").string("Exec"));
     EXPECT_EQ(entry("Exec=").string("Exec"), "");
+}
+
+TEST(DesktopEntry, KeepsEscapesThatThereAreNone) {
+    EXPECT_EQ(entry(R"(Exec=a\q)").string("Exec"), R"(a\q)");
+    EXPECT_EQ(entry("Exec=a\\").string("Exec"), "a");
+}
+
+TEST(DesktopEntry, HasNoStringThatIsNotUTF8) {
+    EXPECT_FALSE(entry("Exec=/opt/\xff/zephrine").string("Exec"));
+    EXPECT_FALSE(entry("OnlyShowIn=GNOME;\xff;").list("OnlyShowIn"));
 }
 
 TEST(DesktopEntry, KnowsTwoWordsForEachBoolean) {
@@ -91,11 +99,18 @@ TEST(ProgramOfExec, LosesItsQuotes) {
     EXPECT_EQ(programOfExec(R"("/opt/my tools/zephrine" -x)"), "/opt/my tools/zephrine");
     EXPECT_EQ(programOfExec(R"("/opt/\"a\" \$b \`c\` \\d")"), R"(/opt/"a" $b `c` \d)");
     EXPECT_EQ(programOfExec(R"(/opt/my\ tools/zephrine)"), "/opt/my tools/zephrine");
+    EXPECT_EQ(programOfExec("'/opt/my tools/zephrine'"), "/opt/my tools/zephrine");
+}
+
+TEST(ProgramOfExec, IsNotRunThroughAShell) {
+    for (const char* const exec : {"$HOME/x", "a;b", "`x`", "a&", "~/x", "x*"}) {
+        EXPECT_EQ(programOfExec(exec), exec);
+    }
 }
 
 TEST(ProgramOfExec, IsAbsentWhenTheQuotingIsWrongOrThereIsNone) {
     for (const char* const exec :
-         {"", "   ", "\"\"", "\"/opt/x", "x\\", "$HOME/x", "a;b", "`x`", "%U", "x%", "/opt/%U/x"}) {
+         {"", "   ", "\"\"", "\"/opt/x", "x 'y", "x\\", "#x", "%U", "x%", "/opt/%U/x"}) {
         EXPECT_FALSE(programOfExec(exec)) << exec;
     }
 }
