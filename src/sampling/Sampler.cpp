@@ -7,11 +7,9 @@ namespace zephrine {
 
 namespace {
 
-/// The utilisation in a service's statistics; absent when it is missing or cannot be true.
+/// The utilisation in a service's statistics (null: none); absent when it is missing or cannot be
+/// true.
 std::optional<double> utilization(const Property* statistics) {
-    if (statistics == nullptr) {
-        return std::nullopt;
-    }
     const auto* dictionary = std::get_if<PropertyDictionary>(statistics);
     if (dictionary == nullptr) {
         return std::nullopt;

@@ -2,6 +2,8 @@
 // What happens when launching finishes, and in which order.
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 #include "app/ControllerTest.h"
 
 namespace zephrine {
@@ -34,13 +36,13 @@ TEST_F(LaunchTest, PutsAnItemIntoTheStatusBar) {
 
 TEST_F(LaunchDeathTest, CannotLaunchWithoutAnItem) {
     application().bar.givesItem = false;
-    EXPECT_DEATH(launch(), "^$");
+    EXPECT_EXIT(launch(), testing::KilledBySignal(SIGABRT), "^$");
 }
 
 TEST_F(LaunchDeathTest, NothingCanBeShownBeforeLaunch) {
     prepare();
-    EXPECT_DEATH(controller->updateStatusItem(), "^$");
-    EXPECT_DEATH(controller->showDashboard(), "^$");
+    EXPECT_EXIT(controller->updateStatusItem(), testing::KilledBySignal(SIGABRT), "^$");
+    EXPECT_EXIT(controller->showDashboard(), testing::KilledBySignal(SIGABRT), "^$");
 }
 
 TEST_F(LaunchTest, HandsTheDashboardToThePopover) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 #include "app/ControllerTest.h"
 #include "dashboard/DashboardTable.h"
 #include "platform/qt/DesktopVocabulary.h"
@@ -101,6 +103,13 @@ TEST_F(DashboardTest, SortsByCPUAtFirst) {
     const auto& sort = child<FakeSegmentedControl>();
     EXPECT_EQ(sort.labels, (std::vector<std::string>{"CPU", "RAM"}));
     EXPECT_EQ(sort.selected, 0);
+}
+
+using DashboardDeathTest = DashboardTest;
+
+TEST_F(DashboardDeathTest, CannotBeBuiltWithoutItsSortControl) {
+    platform.application.widgetFactory.givesSegments = false;
+    EXPECT_EXIT(dashboard.loadView(), testing::KilledBySignal(SIGABRT), "^$");
 }
 
 TEST_F(DashboardTest, QuitTerminatesTheApplication) {

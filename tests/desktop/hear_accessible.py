@@ -7,6 +7,8 @@ import sys
 
 import gi
 
+from read_accessible import role_of
+
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402  # pylint: disable=wrong-import-position
 
@@ -16,7 +18,7 @@ KINDS = ("object:children-changed", "object:state-changed", "object:property-cha
 def described(element):
     try:
         shows = element.get_state_set().contains(Atspi.StateType.SHOWING)
-        return f"{element.get_role_name()} {'showing' if shows else 'hidden'}"
+        return f"{role_of(element)} {'showing' if shows else 'hidden'}"
     except GLib.Error:
         return "gone"
 

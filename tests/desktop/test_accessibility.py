@@ -123,7 +123,7 @@ class ItemInATray(DesktopTestCase):
     def spoken(self):
         """The one thing to press that stands in no window, or None."""
         found = [e for e in accessibility.windows(self.desk, self.program)
-                 if e["role"] == "push button"]
+                 if e["role"] == "button"]
         self.assertLessEqual(len(found), 1)
         return found[0] if found else None
 
@@ -174,7 +174,7 @@ class ItemInATray(DesktopTestCase):
             news = ["object:children-changed:add application showing"]
             tray = hosts.trayer(self.desk)
             wait_until(lambda: hears(*news), 20, "its coming")
-            news.append("object:property-change:accessible-name push button showing")
+            news.append("object:property-change:accessible-name button showing")
             with processes.holding(GIGABYTE):
                 wait_until(lambda: hears(*news), 20, "its new figures")
             news.append("object:children-changed:remove application showing")
@@ -187,7 +187,7 @@ class ItemInATray(DesktopTestCase):
             hosts.trayer(self.desk)
             self.program = start(self.desk, "--show-settings")
             self.wait_for_item_at(self.place_in_tray)
-            accessibility.act(self.desk, self.program, "push button", "CPU .*", "Press")
+            accessibility.act(self.desk, self.program, "button", "CPU .*", "Press")
             _, left, top, width, _ = wait_until(lambda: dashboard(self.desk, self.program), 10,
                                                 "the dashboard")
             _, item_left, _, item_width, item_height = self.place_in_tray()

@@ -160,6 +160,7 @@ public:
 
     CallLog calls;
     bool imagesExist = true;
+    bool givesSegments = true;
 
     std::unique_ptr<View> makeView(const Rect& frame) override {
         auto view = make<FakeView>();
@@ -181,7 +182,7 @@ public:
     }
     std::unique_ptr<SegmentedControl> makeSegmentedControl(
         const std::vector<std::string>& labels) override {
-        return make<FakeSegmentedControl>(labels);
+        return givesSegments ? make<FakeSegmentedControl>(labels) : nullptr;
     }
     std::unique_ptr<View> makeSeparator() override {
         auto separator = make<FakeView>();

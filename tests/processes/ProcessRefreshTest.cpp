@@ -54,11 +54,12 @@ TEST_F(ProcessRefreshTest, OpeningStartsACaptureAtOnceAndATwoSecondTimer) {
     EXPECT_EQ(loop().timers.back().tolerance, 0.0);
 }
 
-TEST_F(ProcessRefreshTest, StartingAgainRefreshesBeforeItReplacesTheTimer) {
+TEST_F(ProcessRefreshTest, StartingAgainDropsTheBaselineRefreshesAndReplacesTheTimer) {
     launch({"--show-dashboard"});
     finishCapture();
     calls().clear();
     controller->openInspectionWindow();
+    EXPECT_FALSE(controller->previousProcesses.has_value());
     EXPECT_TRUE(calls().inOrder({"perform", "invalidate", "scheduleTimer"}));
 }
 

@@ -90,6 +90,7 @@ TEST_F(SquareImageTest, ShowsTwoBarsWhereDigitsWouldBeTooSmall) {
     EXPECT_EQ(cpuTrack, (Rect{1, 1, 4, 14}));
     EXPECT_EQ(context.rects[2].rect, (Rect{6, 1, 4, 14}));
     EXPECT_EQ(context.ovals[0].rect, (Rect{11, 1, 5, 5}));
+    EXPECT_EQ(drawn(8).rects[2].rect, (Rect{3, 0.5, 2, 7}));
     EXPECT_DOUBLE_EQ(cpuBar.height, cpuTrack.height * 0.12);
     EXPECT_EQ(context.rects[1].color, Color::black);
     EXPECT_DOUBLE_EQ(context.rects[3].rect.height, context.rects[2].rect.height * 0.63);

@@ -195,6 +195,9 @@ TEST_F(UpdateStatusItemTest, TheSquareFormShowsTheSameFigures) {
     button().image.square(22).drawingHandler(context);
     EXPECT_EQ(context.texts.at(0).text, "30");
     EXPECT_EQ(context.texts.at(1).text, "25");
+    button().image.square(16).drawingHandler(context);
+    EXPECT_DOUBLE_EQ(context.rects.at(1).rect.height, 14 * 0.30);
+    EXPECT_DOUBLE_EQ(context.rects.at(3).rect.height, 14 * 0.25);
 }
 
 }  // namespace
