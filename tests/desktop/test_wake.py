@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """Waking up from sleep: the figures are new at once, and none is an average over the sleep."""
+import signal
 import time
 import unittest
 
@@ -39,6 +40,26 @@ class Wake(DesktopTestCase):
             after = ticks()
             counted = 100 * (after[0] - before[0]) / (after[1] - before[1])
             self.assertAlmostEqual(int(text[1]), counted, delta=10)
+
+    def test_a_whole_interval_passes_between_a_wake_up_and_the_next_refresh(self):
+        for interval in (0.5, 1.0, 5):
+            with self.subTest(interval), self.desktop() as desktop, \
+                    Bus(desktop.bus_address) as bus, mocks.Logind(desktop) as logind:
+                settings.store(desktop, refreshInterval=interval)
+                hosts.xfce(desktop)
+                program = start(desktop)
+                item = wait_for_item(bus, program)
+                wait_for_text(item)
+
+                # As after a sleep, one refresh is overdue, and another one soon to come.
+                program.send_signal(signal.SIGSTOP)
+                time.sleep(1.5 * interval)
+                logind.prepare_for_sleep(False)
+                begin = time.monotonic()
+                program.send_signal(signal.SIGCONT)
+                wait_until(lambda: item.text() is None, 4, "a text without a processor figure")
+                wait_for_text(item)
+                self.assertGreaterEqual(time.monotonic() - begin, interval)
 
     def test_nobody_else_can_say_that_the_machine_woke_up(self):
         with self.desktop() as desktop, Bus(desktop.bus_address) as bus, \

@@ -78,19 +78,23 @@ TEST_F(LinuxBackgroundWorkerTest, TakesAJobWithoutACompletion) {
 }
 
 TEST_F(LinuxBackgroundWorkerTest, FreesWhatAJobHeldBeforeItsCompletionRuns) {
-    auto held = std::make_shared<int>();
-    const std::weak_ptr<int> watch = held;
-    bool free = false;
+    std::atomic<bool> isFree = false;
+    bool wasFree = false;
+    const auto free = [&isFree](const int* held) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));  // time to be overtaken
+        delete held;
+        isFree = true;
+    };
     worker->perform(
-        [&, held = std::move(held)] {
+        [&, held = std::shared_ptr<int>(new int, free)] {
             return [&] {
-                free = watch.expired();
+                wasFree = isFree;
                 log.emplace_back("done");
             };
         },
         [] {});
     ASSERT_TRUE(waitForLog(1));
-    EXPECT_TRUE(free);
+    EXPECT_TRUE(wasFree);
 }
 
 TEST_F(LinuxBackgroundWorkerTest, GivesUpAJobThatIsStuckAndGoesOnWithTheNext) {
