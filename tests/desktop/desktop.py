@@ -20,16 +20,32 @@ PR_SET_CHILD_SUBREAPER = 36
 libc = ctypes.CDLL(None, use_errno=True)
 
 
+# Timeouts are for a machine that does nothing else. They only end what hangs, and where others keep
+# the processors busy everything takes longer, by up to this factor.
+PATIENCE = 6
+
+
 def wait_until(condition, timeout, what):
-    """The first true answer of `condition`, which is asked again and again for `timeout` s."""
-    end = time.monotonic() + timeout
+    """The first true answer of `condition`, which is asked again and again for `timeout` s of an
+    idle machine."""
+    end = time.monotonic() + timeout * PATIENCE
     while True:
         answer = condition()
         if answer:
             return answer
         if time.monotonic() > end:
-            raise TimeoutError(f"{what}: not within {timeout} s")
+            raise TimeoutError(f"{what}: not within {timeout * PATIENCE} s")
         time.sleep(0.05)
+
+
+def stays(condition, seconds, what):
+    """Fails unless the condition is true all this time: for what must not happen, of which there
+    is no sign to wait for. On a busy machine less is seen in that time, but nothing else."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        if not condition():
+            raise AssertionError(f"{what}: not any more")
+        time.sleep(0.02)
 
 
 class Desktop:
@@ -147,14 +163,24 @@ class Desktop:
         return ImageGrab.grab(bbox=box, xdisplay=self.display).convert("RGB")
 
     def settled_picture(self, box=None):
-        """The same, once nothing has changed on it for half a second."""
-        picture = None
-        for _ in range(20):
-            before, picture = picture, self.picture(box)
-            if picture == before:
-                break
-            time.sleep(0.5)
-        return picture
+        """The same, once nothing has changed on it for half a second, in which no program here was
+        kept waiting for a processor."""
+        last, since = None, 0
+
+        def settled():
+            nonlocal last, since
+            picture = self.picture(box)
+            if picture != last or self._is_busy():
+                last, since = picture, time.monotonic()
+            return time.monotonic() - since > 0.5 and picture
+
+        return wait_until(settled, 20, "a picture that stays")
+
+    def _is_busy(self):
+        """Whether anything that was started here works, or would if there were a processor."""
+        sessions = {process.pid for process in self._started}  # each began one of its own
+        return any(state in "RD" and session in sessions
+                   for _, state, _, session in process_table())
 
     def _keep_evidence(self):
         shutil.rmtree(self._evidence, ignore_errors=True)
@@ -176,7 +202,7 @@ def end_children():
                 with contextlib.suppress(ProcessLookupError):
                     os.kill(pid, number)
             signalled |= children
-            time.sleep(0.02)
+            time.sleep(0.02)  # until it is asked again who is left
 
 
 def living_children():
@@ -184,11 +210,13 @@ def living_children():
     with contextlib.suppress(ChildProcessError):
         while os.waitpid(-1, os.WNOHANG) != (0, 0):
             pass
-    living = set()
+    return {pid for pid, _, parent, _ in process_table() if parent == os.getpid()}
+
+
+def process_table():
+    """(pid, state, parent's pid, session) of each process that there is: proc(5)."""
     for entry in pathlib.Path("/proc").glob("[0-9]*/stat"):
         with contextlib.suppress(OSError):
             # The name is in parentheses and may hold anything, so count from the last one.
-            parent = entry.read_text(errors="replace").rpartition(")")[2].split()[1]
-            if int(parent) == os.getpid():
-                living.add(int(entry.parent.name))
-    return living
+            fields = entry.read_text(errors="replace").rpartition(")")[2].split()
+            yield int(entry.parent.name), fields[0], int(fields[1]), int(fields[3])

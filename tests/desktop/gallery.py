@@ -4,34 +4,33 @@
 ZEPHRINE=build/release/src/zephrine tests/desktop/gallery.py FOLDER [HOST...]"""
 import pathlib
 import sys
-import time
 
 import heavy_hosts
 import hosts
 from desktop import Desktop, wait_until
 from load import cpu_load
-from program import changed_area, start
-from reading import figures, with_margin
+from pictures import ABSENT
+from program import start
+from shown import shown_item
 
 HOSTS = hosts.BY_NAME | heavy_hosts.BY_NAME
 WIDTH, HEIGHT = 240, 32
-
-
-def shows_figures(desktop, empty, area):
-    box = changed_area(desktop, empty, area)
-    return box and len(figures(desktop.picture(with_margin(box)))) >= 2
 
 
 def take(folder, name):
     host = HOSTS[name]
     with Desktop(window_manager=host.window_manager) as desktop:
         host.start(desktop)
-        time.sleep(1)
         empty = desktop.settled_picture(host.area)
         start(desktop)
-        wait_until(lambda: shows_figures(desktop, empty, host.area), 20, "the item")
+
+        def shown_cpu():
+            shown = shown_item(desktop, empty, host.look, host.area)
+            return shown and shown.cpu != ABSENT and shown.cpu
+
+        before = wait_until(shown_cpu, 20, "the item with its figures")
         with cpu_load(30):
-            time.sleep(4)
+            wait_until(lambda: shown_cpu() not in (None, before), 20, "figures under a load")
             _, top, right, bottom = host.area
             top = max(0, (top + bottom - HEIGHT) // 2)
             right = min(1000, right + 60)

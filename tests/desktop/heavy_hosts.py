@@ -6,7 +6,8 @@ import sway_hosts
 from bus import Bus
 from desktop import wait_until
 from host import Host
-from hosts import filled, wait_for_watcher
+from hosts import filled, wait_for_tray, wait_for_watcher, wait_until_drawn
+from pictures import Look, commonest_colour
 from program import windows
 
 CINNAMON_WATCHER = "/usr/libexec/xapps/sn-watcher/xapp-sn-watcher"
@@ -14,10 +15,14 @@ CINNAMON_APPLETS = """['panel1:left:0:menu@cinnamon.org', 'panel1:right:0:systra
  'panel1:right:1:xapp-status@cinnamon.org']"""
 
 GNOME_BAR = (0, 0, 1000, 30)
+BLACK = (0, 0, 0)
 
 # To the left of what the panels show besides.
 GNOME_TRAY = (700, 0, 940, 30)
-PLASMA_TRAY = (680, 718, 786, 758)
+PLASMA_TRAY = (680, 718, 800, 758)
+
+# The extension gives pictures a little less than all of their opacity.
+GNOME_LOOK = Look("square", 16, opacity=240 / 255, has_label=True)
 
 # The bar is as high as its font: at the usual size, an item has no room for figures.
 I3_SETTINGS = """# i3 config file (v4)
@@ -70,7 +75,12 @@ def gnome(desktop):
     shell = start_gnome(desktop)
     wait_until(lambda: desktop.picture(GNOME_BAR).getcolors(1) is None, 30, "the top bar")
     desktop.settled_picture()
-    desktop.run("xdotool", "key", "Escape")
+
+    def bar_is_black():
+        desktop.run("xdotool", "key", "Escape")
+        return commonest_colour(desktop.picture(GNOME_BAR)) == BLACK
+
+    wait_until(bar_is_black, 20, "the end of the overview")
     return shell
 
 
@@ -137,6 +147,8 @@ def budgie(desktop):
     ensure_system_bus(desktop)
     panel = desktop.start("budgie-panel")
     wait_for_name(desktop, "org.budgie_desktop.Panel")
+    wait_for_tray(desktop)
+    wait_until_drawn(desktop, panel)
     return panel
 
 
@@ -146,7 +158,9 @@ def i3bar(desktop, colour="#000000"):
     set_i3bar_colour(desktop, colour)
     if not runs:
         start_i3(desktop)
-    return desktop.start("i3bar", "--bar_id=bar-0")
+    bar = desktop.start("i3bar", "--bar_id=bar-0")
+    wait_for_tray(desktop)
+    return bar
 
 
 def set_i3bar_colour(desktop, colour):
@@ -167,9 +181,10 @@ def message_i3(desktop, *message):
 
 
 BY_NAME = {
-    "gnome": Host(gnome, GNOME_TRAY, restart=start_gnome, clicks=2, window_manager=False),
-    "cinnamon": Host(cinnamon, (500, 722, 1000, 758), window_manager=False),
-    "plasma": Host(plasma, PLASMA_TRAY, restart=start_plasma),
-    "budgie": Host(budgie, (700, 726, 890, 758)),
-    "i3bar": Host(i3bar, (500, 0, 1000, 24), window_manager=False),
+    "gnome": Host(gnome, GNOME_TRAY, GNOME_LOOK, clicks=2, window_manager=False),
+    "cinnamon": Host(cinnamon, (500, 722, 1000, 758), Look(size=2, height=24),
+                     window_manager=False),
+    "plasma": Host(plasma, PLASMA_TRAY, Look("square", 22)),
+    "budgie": Host(budgie, (700, 726, 890, 758), Look("square", 24)),
+    "i3bar": Host(i3bar, (500, 0, 1000, 27), Look("square", 24), window_manager=False),
 } | sway_hosts.BY_NAME

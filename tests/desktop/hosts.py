@@ -1,9 +1,12 @@
 # SPDX-License-Identifier: MIT
 """Panels that show status items, one function each: it starts the panel on a desktop, waits until
 the panel accepts items, and returns the panel's process."""
+import math
+
 from bus import Bus
 from desktop import wait_until
 from host import Host
+from pictures import Look, commonest_colour
 from program import windows
 from x11 import Display
 
@@ -179,10 +182,11 @@ def wait_until_drawn(desktop, panel):
     """A panel accepts items, and shows its windows, before it draws on them: until then, the
     desktop is seen in them."""
     def is_drawn():
-        bare = max(desktop.picture().getcolors(2**24))[1]
-        return any(colour != bare for _, left, top, width, height in windows(desktop, panel)
-                   for _, colour in desktop.picture((left, top, left + width, top + height))
-                   .getcolors(2**24))
+        picture = desktop.picture()
+        bare = commonest_colour(picture)
+        return any(picture.crop((left, top, left + width, top + height)).getcolors(1)
+                   != [(width * height, bare)]
+                   for _, left, top, width, height in windows(desktop, panel))
 
     wait_until(is_drawn, 20, "a panel that is drawn")
 
@@ -210,13 +214,28 @@ def none(_):
     """A bare window manager: there, the item has a strip of its own."""
 
 
+def strip_look(scale):
+    """That of our own strip: its picture has a frame."""
+    return Look(size=scale, scale=scale, frame=(math.ceil(6 * scale), math.ceil(3 * scale)))
+
+
 TOP = (0, 0, 1000, 32)
 
+# At each scale of the screen that the panel can be told of.
+LOOKS = {
+    # Xfce leaves windows as wide as they are, but no higher than 22 points: 62 of the 68 are left.
+    "xfce": {scale: Look(size=scale * 62 / 68, scale=scale) for scale in (1, 2)},
+    "lxqt": {scale: Look("square", side, scale=scale)
+             for scale, side in {1: 22, 1.25: 28, 1.5: 33, 2: 44}.items()},
+    "mate": {scale: Look(size=2, scale=scale, height=25 * scale) for scale in (1, 2)},
+    "none": {scale: strip_look(scale) for scale in (1, 1.25, 1.5, 2)},
+}
+
 BY_NAME = {
-    "xfce": Host(xfce, TOP),
-    "lxqt": Host(lxqt, (0, 728, 1000, 760)),
-    "mate": Host(mate, (500, 0, 1000, 27)),
-    "trayer": Host(trayer, TOP),
-    "tint2": Host(tint2, TOP),
-    "none": Host(none, TOP),
+    "xfce": Host(xfce, TOP, LOOKS["xfce"][1]),
+    "lxqt": Host(lxqt, (0, 728, 1000, 760), LOOKS["lxqt"][1]),
+    "mate": Host(mate, (500, 0, 1000, 27), LOOKS["mate"][1]),
+    "trayer": Host(trayer, TOP, Look()),
+    "tint2": Host(tint2, TOP, Look("square", 24, is_multiplied=True)),
+    "none": Host(none, TOP, LOOKS["none"][1]),
 }

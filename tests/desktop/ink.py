@@ -8,19 +8,19 @@ from PIL import Image, ImageChops, ImageDraw, ImageStat
 
 COLOURFUL = 24  # how far the parts of a colour are apart, of 255, that is no grey
 INK = 60        # how far a character's grey is from its background's at least
-# In pixels of an ordinary screen:
+# In pixels:
 BLANK = 4       # the widest blank in a line
 BETWEEN_LINES = 3
 
 
-def closed_up(picture, scale=1):
+def closed_up(picture):
     """The picture in grey, with its lines of characters alone, and narrow blanks within them."""
     grey = without_surroundings(without_colour(picture))
     background = median(grey)
     rows = spans(ink(grey, background).transpose(Image.Transpose.TRANSPOSE))
-    lines = [closed_up_line(grey.crop((0, top, grey.width, bottom)), background,
-                            round(BLANK * scale)) for top, bottom in rows]
-    advances = [line.height + round(BETWEEN_LINES * scale) for line in lines]
+    lines = [closed_up_line(grey.crop((0, top, grey.width, bottom)), background)
+             for top, bottom in rows]
+    advances = [line.height + BETWEEN_LINES for line in lines]
     text = Image.new("L", (max((line.width for line in lines), default=1), max(1, sum(advances))),
                      background)
     for line, top in zip(lines, itertools.accumulate(advances, initial=0)):
@@ -28,11 +28,11 @@ def closed_up(picture, scale=1):
     return text
 
 
-def closed_up_line(grey, background, blank):
+def closed_up_line(grey, background):
     line = Image.new("L", grey.size, background)
     end, last = 0, None
     for left, right in spans(ink(grey, background)):
-        end += min(blank, left - last) if last is not None else 0
+        end += min(BLANK, left - last) if last is not None else 0
         line.paste(grey.crop((left, 0, right, grey.height)), (end, 0))
         end, last = end + right - left, right
     return line.crop((0, 0, end, line.height))

@@ -35,18 +35,21 @@ def compare(item, seconds, interval=1.0):
     that is shown from one refresh to the next tells of the interval before it, so the kernel's
     count is taken one interval earlier."""
     samples = []
-    time.sleep(2.5 * interval)  # until the figures tell of the present load only
-    end = time.monotonic() + seconds + 2 * interval
+    end = time.monotonic() + seconds + 4.5 * interval
     while (now := time.monotonic()) < end:
         if text := item.text():
             samples.append((now, float(text[1]), ticks()))
-        time.sleep(0.05)
+        time.sleep(0.05)  # between two samples of the measurement
 
-    changes = [i for i in range(1, len(samples))
-               if samples[i][1] != samples[i - 1][1] and samples[i][0] > samples[0][0] + interval]
-    first, last = changes[:1] + changes[-1:] if changes else (0, len(samples) - 1)
+    # From here on the figures tell of the present load only.
+    start = next(i for i, sample in enumerate(samples)
+                 if sample[0] > samples[0][0] + 2.5 * interval)
+    changes = [i for i in range(start + 1, len(samples))
+               if samples[i][1] != samples[i - 1][1]
+               and samples[i][0] > samples[start][0] + interval]
+    first, last = changes[:1] + changes[-1:] if changes else (start, len(samples) - 1)
     if samples[last][0] - samples[first][0] < seconds / 2:
-        first, last = 0, len(samples) - 1
+        first, last = start, len(samples) - 1
     shown = sum(samples[i][1] * (samples[i + 1][0] - samples[i][0]) for i in range(first, last))
     shown /= samples[last][0] - samples[first][0]
 

@@ -43,10 +43,10 @@ def main(program, seconds="60"):
 
 
 def measure(state, desktop, process, item, seconds):
-    time.sleep(SETTLE)
+    time.sleep(SETTLE)  # what is measured is a state that lasts
     before = [processes.cpu_seconds(p.pid) for p in (process, desktop.server)]
     start = time.monotonic()
-    time.sleep(seconds)
+    time.sleep(seconds)  # which is what is measured
     elapsed = time.monotonic() - start
     costs = [1000 * (processes.cpu_seconds(p.pid) - b) / elapsed
              for p, b in zip((process, desktop.server), before)]

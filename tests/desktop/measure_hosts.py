@@ -4,14 +4,13 @@
 second: while its figures change with every refresh, and while they stay. Prints the CPU time that
 the program, the panel and the X server take for each second, what the latter two took before the
 program was there (in parentheses), and what the program says on the bus. Nothing is judged:
-figures of a busy machine mean little. Needs root, for the figures.
+figures of a busy machine mean little.
 
     tests/desktop/measure_hosts.py build/release/src/zephrine xfce lxqt mate trayer none
 """
 import collections
 import contextlib
 import os
-import pathlib
 import sys
 import time
 
@@ -21,7 +20,7 @@ import processes
 import settings
 from bus import Bus
 from bus_monitor import BusMonitor
-from desktop import Desktop
+from desktop import Desktop, process_table
 from figures import Figures
 from program import wait_for_item, wait_for_text
 
@@ -43,7 +42,7 @@ def measure_host(program, name):
         settings.store(desktop, refreshInterval=1)
         before = descendants(os.getpid())
         host.start(desktop)
-        time.sleep(START)
+        time.sleep(START)  # some go on for a while after they have drawn all there is to see
         panel = descendants(os.getpid()) - before
         idle = costs(SECONDS / 4, {"panel": panel, "server": {desktop.server.pid}})
         with Figures(desktop.folder) as figures:
@@ -53,7 +52,7 @@ def measure_host(program, name):
             groups = {"program": {process.pid}, "panel": panel, "server": {desktop.server.pid}}
             for figures.changing in (True, False):
                 with BusMonitor(desktop.bus_address, process.pid) as monitor:
-                    time.sleep(SETTLE)
+                    time.sleep(SETTLE)  # until the last figures of the other kind are over
                     monitor.sent()
                     spent = costs(SECONDS, groups)
                     kind = "changing" if figures.changing else "steady"
@@ -75,7 +74,7 @@ def costs(seconds, groups):
     """The CPU time of all threads of each group of processes, in ms a second."""
     before = {who: spent_by(pids) for who, pids in groups.items()}
     start = time.monotonic()
-    time.sleep(seconds)
+    time.sleep(seconds)  # which is what is measured
     elapsed = time.monotonic() - start
     return {who: 1000 * (spent_by(pids) - before[who]) / elapsed for who, pids in groups.items()}
 
@@ -91,11 +90,8 @@ def spent_by(pids):
 def descendants(ancestor):
     """The pids of all processes that come from this one."""
     children = collections.defaultdict(set)
-    for entry in pathlib.Path("/proc").glob("[0-9]*/stat"):
-        with contextlib.suppress(OSError):
-            # The name is in parentheses and may hold anything, so count from the last one.
-            parent = entry.read_text(errors="replace").rpartition(")")[2].split()[1]
-            children[int(parent)].add(int(entry.parent.name))
+    for pid, _, parent, _ in process_table():
+        children[parent].add(pid)
     found, left = set(), [ancestor]
     while left:
         new = children[left.pop()] - found

@@ -2,7 +2,6 @@
 """Dark and light panels: how each is started as one, and how one that runs is turned into the
 other, where it can be."""
 import dataclasses
-import time
 import typing
 
 import heavy_hosts
@@ -90,7 +89,7 @@ def turn_budgie(desktop, dark):
 def budgie(desktop, dark):
     """It makes itself dark as it lays itself out, and what is told meanwhile is lost."""
     panel = heavy_hosts.budgie(desktop)
-    time.sleep(2)
+    desktop.settled_picture()
     turn_budgie(desktop, dark)
     return panel
 

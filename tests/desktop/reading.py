@@ -9,31 +9,21 @@ import tempfile
 from PIL import Image, ImageOps, ImageStat
 
 from ink import closed_up
+from pictures import commonest_colour
 
-MAGNIFICATIONS = (5, 6, 4)  # of text of nine points on an ordinary screen
+MAGNIFICATIONS = (5, 6, 4)  # of text of nine points; each is mistaken now and then
 MARGIN = 24
 CHARACTERS = "0123456789.% CPURAMGB"
 
 
-def figures(picture, scale=1):
-    """The numbers in a picture of an item, as text, from top to bottom; the units are left out.
-    `scale` is that of the screen."""
-    return next((read for read in readings(picture, scale) if len(read) == 2), [])
-
-
-def readings(picture, scale=1):
-    """The same as it is read at one magnification after the other: each is mistaken now and then,
-    and hardly ever are all of them."""
-    text = closed_up(picture, scale)
-    return (numbers_in(characters(text, times / scale)) for times in MAGNIFICATIONS)
-
-
-def shows(text, number):
-    """Whether the text that was read may be this whole number. The dot or slash that most fonts of
-    fixed width have in a zero makes an 8 or a 6 of it at this size."""
-    digits = str(number)
-    return len(text) == len(digits) and all(
-        read == digit or (digit == "0" and read in "68") for read, digit in zip(text, digits))
+def can_be_read(picture, *numbers):
+    """Whether these whole numbers, and no others, are read in the picture of an item, from top to
+    bottom. They are better without a zero: the dot or slash that most fonts of fixed width have in
+    it makes another digit of it at this size."""
+    # Characters are not found at the very edge of a picture.
+    text = closed_up(ImageOps.expand(picture, 2, fill=commonest_colour(picture)))
+    return any(numbers_in(characters(text, times)) == [str(number) for number in numbers]
+               for times in MAGNIFICATIONS)
 
 
 def characters(grey, times):
@@ -49,7 +39,7 @@ def characters(grey, times):
             ["tesseract", file.name, "-", "--psm", "6",
              "-c", f"tessedit_char_whitelist={CHARACTERS}"],
             env=os.environ | {"OMP_THREAD_LIMIT": "1"},  # several are slower at so little
-            check=True, timeout=60, capture_output=True, text=True).stdout
+            check=True, timeout=600, capture_output=True, text=True).stdout
 
 
 def numbers_in(text):
@@ -57,9 +47,3 @@ def numbers_in(text):
     number = r"(\d+(?:\.\d)?)"
     named = re.findall(r"(?:CPU|RAM)\D*" + number, text)
     return named or [found[0] for line in text.splitlines() if (found := re.findall(number, line))]
-
-
-def with_margin(box, margin=2):
-    """A little more than the box: characters are not found at the very edge of a picture."""
-    left, top, right, bottom = box
-    return max(0, left - margin), max(0, top - margin), right + margin, bottom + margin

@@ -5,15 +5,19 @@ its dashboard open, and saves a picture of the screen."""
 import pathlib
 import signal
 import sys
-import time
+
+from PIL import Image
 
 import hosts
 from bus import Bus
 from desktop import Desktop, wait_until
-from program import dashboard, wait_for_item
+from pictures import commonest_colour
+from program import changed_box, dashboard, wait_for_item
 
-# The process list shows CPU figures from its second capture on, which comes after 2 seconds.
-FIGURES_AFTER_S = 5
+# Of the dashboard's window: where the first process in the list has its share, from the second
+# capture of all processes on.
+SHARE = (256, 414, 341, 438)
+DIGIT = 6  # pixels high, or more; a dash is lower
 
 
 def main(program, picture, *arguments):
@@ -26,7 +30,8 @@ def main(program, picture, *arguments):
         try:
             wait_for_item(bus, process)
             wait_until(lambda: dashboard(desktop, process), 20, "the dashboard")
-            time.sleep(FIGURES_AFTER_S)
+            wait_until(lambda: process.poll() is not None or shows_share(desktop, process), 20,
+                       "figures in the list of processes")
             if process.poll() is not None:
                 raise TimeoutError(f"the program ended by itself with status {process.returncode}")
         except TimeoutError as error:
@@ -34,6 +39,16 @@ def main(program, picture, *arguments):
             sys.exit(f"{error}\n{log.read_text(errors='replace')}".rstrip())
         desktop.picture().save(picture)
     print(f"The picture is {picture}")
+
+
+def shows_share(desktop, process):
+    window = dashboard(desktop, process)
+    if not window:
+        return False
+    _, x, y, _, _ = window
+    cell = desktop.picture((x + SHARE[0], y + SHARE[1], x + SHARE[2], y + SHARE[3]))
+    ink = changed_box(Image.new("RGB", cell.size, commonest_colour(cell)), cell)
+    return ink is not None and ink[3] - ink[1] >= DIGIT
 
 
 if __name__ == "__main__":

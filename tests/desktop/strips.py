@@ -2,11 +2,13 @@
 """The strip that stands in for the status item where no panel shows items, as a user finds it."""
 import contextlib
 import sys
-import time
 
 import full_screen
+import processes
+from bus import Bus
 from desktop import wait_until
-from program import strip
+from processes import GIGABYTE
+from program import strip, wait_for_text
 
 
 def wait_for_strip(desktop, process):
@@ -27,16 +29,23 @@ def middle(window):
     return x + width // 2, y + height // 2
 
 
-def drag(desktop, start_point, end_point):
-    """Slowly, since sway tells the strip no more of the pointer once that is no longer on it."""
-    steps = 60
+def drag(desktop, process, start_point, end_point):
+    """Step by step, since sway tells the strip no more of the pointer once that is no longer on
+    it."""
+    steps = 30
     desktop.use_input("mousemove", *map(str, start_point))
     desktop.use_input("mousedown", "1")
     for step in range(1, steps + 1):
         point = [a + (b - a) * step // steps for a, b in zip(start_point, end_point)]
         desktop.use_input("mousemove", *map(str, point))
-        time.sleep(0.02)
+        wait_until(lambda: is_in(strip(desktop, process), point), 10, f"the strip at {point}")
     desktop.use_input("mouseup", "1")
+
+
+def is_in(window, point):
+    """Whether a point is well within a window."""
+    _, x, y, width, height = window
+    return x + 5 < point[0] < x + width - 5 and y + 5 < point[1] < y + height - 5
 
 
 def is_seen(desktop, window):
@@ -59,3 +68,12 @@ def covers(desktop, window):
     _, x, y, width, height = window
     colours = desktop.picture((x, y, x + width, y + height)).getcolors(10000)
     return [colour for _, colour in colours] == [full_screen.GREEN]
+
+
+def wait_for_other_figures(desktop, process):
+    """Until the item would be drawn anew: those of the processors may stay as they are."""
+    with Bus(desktop.bus_address) as bus:
+        item = bus.item_of(process.pid)
+        before = wait_for_text(item)[2]
+        with processes.holding(GIGABYTE):
+            wait_until(lambda: (text := item.text()) and text[2] != before, 20, "other figures")

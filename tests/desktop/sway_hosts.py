@@ -6,6 +6,10 @@ import os
 from desktop import wait_until
 from host import Host
 from hosts import filled, wait_for_watcher
+from pictures import Look, commonest_colour
+
+BACKGROUND = (0x30, 0x50, 0x70)
+TOP = (0, 0, 1000, 20)
 
 # sway's own bar is as high as its font: at the usual size, an item has no room for figures.
 SETTINGS = """xwayland force
@@ -31,15 +35,19 @@ def waybar(desktop):
     folder = desktop.config / "waybar"
     folder.mkdir(exist_ok=True)
     (folder / "config").write_text(WAYBAR_SETTINGS, encoding="utf-8")
-    bar = desktop.start("waybar")
-    wait_for_watcher(desktop)
-    return bar
+    return start_bar(desktop, "waybar")
 
 
 def swaybar(desktop):
     ensure_sway(desktop)
-    bar = desktop.start("swaybar", "--bar_id=bar-0")
+    return start_bar(desktop, "swaybar", "--bar_id=bar-0")
+
+
+def start_bar(desktop, *command):
+    """The bar, once it accepts items and is drawn."""
+    bar = desktop.start(*command)
     wait_for_watcher(desktop)
+    wait_until(lambda: commonest_colour(desktop.picture(TOP)) != BACKGROUND, 20, "the bar")
     return bar
 
 
@@ -64,6 +72,7 @@ def ensure_sway(desktop):
 
 
 BY_NAME = {
-    "waybar": Host(waybar, (500, 0, 1000, 30), window_manager=False),
-    "swaybar": Host(swaybar, (500, 0, 1000, 28), window_manager=False),
+    "waybar": Host(waybar, (500, 0, 1000, 30), Look("line", height=16, is_width_whole=True),
+                   window_manager=False),
+    "swaybar": Host(swaybar, (500, 0, 1000, 28), Look("square", 24), window_manager=False),
 }

@@ -255,7 +255,7 @@ class Keyboard(AccessibilityTestCase):
             with self.subTest(key), self.opened():
                 self.move_to("Quit")
                 press_keys(self.desk, key)
-                self.assertEqual(self.program.wait(timeout=10), 0)
+                self.assertEqual(self.program.wait(timeout=60), 0)
 
     def test_the_focus_shows_once_the_keyboard_is_used(self):
         with self.opened():

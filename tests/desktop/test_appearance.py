@@ -6,10 +6,14 @@ import unittest
 
 from PIL import ImageStat
 
+import hosts
 import mocks
 import settings
 from desktop import wait_until
-from program import DesktopTestCase, dashboard, start, strip
+from figures import Figures, is_seen_at_once
+from namespaces import NOBODY_MAY_MOUNT, may_mount
+from program import PROGRAM, DesktopTestCase, dashboard, start, strip
+from shown import shown_item, shown_percent
 
 NOTHING, DARK, LIGHT = 0, 1, 2
 
@@ -42,15 +46,12 @@ class AppearanceTest(DesktopTestCase):
         for name, find in shown.items():
             wait_until(find, 20, name)
         for name, find in shown.items():
-            # Sooner than a refresh may come.
             wait_until(lambda: (window := find()) and is_dark(desktop, window) is dark
-                       and has_legible_text(desktop, window), 4,
+                       and has_legible_text(desktop, window), 10,
                        f"{name}, {'dark' if dark else 'light'}, with text to be read")
 
     def test_everything_follows_while_it_is_on_screen(self):
         with self.desktop() as desktop, mocks.Portal(desktop, LIGHT) as portal:
-            # So seldom that what changes at once is no refresh.
-            settings.store(desktop, refreshInterval=5)
             program = start(desktop, "--show-settings", "--inspect")
             settings.wait_for_window(desktop, program)
             shown = {"the item": lambda: strip(desktop, program),
@@ -62,6 +63,30 @@ class AppearanceTest(DesktopTestCase):
             for scheme in (DARK, LIGHT, DARK, NOTHING):
                 portal.prefer(scheme)
                 self.assert_all_become(desktop, shown, dark=scheme == DARK)
+
+    @unittest.skipUnless(may_mount(), NOBODY_MAY_MOUNT)
+    def test_the_item_follows_at_once(self):
+        with self.desktop() as desktop, mocks.Portal(desktop, LIGHT) as portal, \
+                Figures(desktop.folder) as figures:
+            settings.store(desktop, refreshInterval=5)
+            empty = desktop.settled_picture()
+            program = desktop.start(*figures.command(PROGRAM))
+            wait_until(lambda: strip(desktop, program), 20, "the item")
+            scheme = LIGHT
+
+            def cpu_shown():
+                window = strip(desktop, program)
+                return shown_percent(shown_item(desktop, empty, hosts.LOOKS["none"][1])) \
+                    if window and is_dark(desktop, window) is (scheme == DARK) else None
+
+            def prefer_the_other():
+                nonlocal scheme
+                scheme = DARK if scheme == LIGHT else LIGHT
+                portal.prefer(scheme)
+                return wait_until(cpu_shown, 10, "the item in the other colours")
+
+            for _ in range(2):  # there and back
+                self.assertTrue(is_seen_at_once(figures, cpu_shown, prefer_the_other))
 
     def test_the_popover_follows_while_it_is_open(self):
         with self.desktop() as desktop, mocks.Portal(desktop, LIGHT) as portal:
@@ -77,7 +102,7 @@ class AppearanceTest(DesktopTestCase):
             item = {"the item": lambda: strip(desktop, program)}
             self.assert_all_become(desktop, item, dark=True)
             portal.process.kill()
-            self.assertEqual(start(desktop, "--show-settings").wait(timeout=10), 0)
+            self.assertEqual(start(desktop, "--show-settings").wait(timeout=60), 0)
             later = {"the settings": lambda: settings.window(desktop, program)}
             self.assert_all_become(desktop, item | later, dark=True)
 

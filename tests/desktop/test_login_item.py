@@ -5,23 +5,16 @@ import contextlib
 import os
 import pathlib
 import shutil
-import subprocess
 import unittest
 
 import accessibility
 import settings
 from bus import Bus
 from desktop import wait_until
+from namespaces import NAMESPACE, NOBODY_MAY_MOUNT, may_mount
 from program import PROGRAM, DesktopTestCase, strip
 
 ALERT = "Couldn’t update launch at login"
-# A mount of our own needs no rights where users may have namespaces: user_namespaces(7).
-NAMESPACE = ("unshare", "--user", "--map-current-user", "--keep-caps", "--mount")
-
-
-def may_mount():
-    return subprocess.run([*NAMESPACE, "mount", "-t", "tmpfs", "tmpfs", "/mnt"], check=False,
-                          capture_output=True).returncode == 0
 
 
 class LoginItemTestCase(DesktopTestCase):
@@ -104,7 +97,7 @@ class Registration(LoginItemTestCase):
             with self.subTest(folders), self.installed(*folders):
                 program = self.register()
                 program.terminate()
-                program.wait(timeout=5)
+                program.wait(timeout=60)
                 self.desk.start(*command, *[str(self.entry)] * (command is gio),
                                 environment={"XDG_CONFIG_DIRS": str(self.desk.folder / "none")})
                 with Bus(self.desk.bus_address) as bus:
@@ -145,7 +138,7 @@ class Failures(LoginItemTestCase):
     def mounting(self, *commands):
         """A wrapper that gives the program a configuration folder of its own."""
         if not may_mount():
-            self.skipTest("this kernel lets nobody mount in a namespace of their own")
+            self.skipTest(NOBODY_MAY_MOUNT)
         script = " && ".join(["cd \"$XDG_CONFIG_HOME\"", *commands, 'cd / && exec "$0" "$@"'])
         return (*NAMESPACE, "sh", "-c", script)
 
@@ -171,7 +164,7 @@ class Failures(LoginItemTestCase):
             self.entry.parent.write_text("in the way", encoding="utf-8")
             program = self.assert_alert(f"{self.entry}: Not a directory")
             self.assertEqual(self.entry.parent.read_text(encoding="utf-8"), "in the way")
-            self.desk.start(str(self.path), "--show-settings").wait(timeout=10)
+            self.desk.start(str(self.path), "--show-settings").wait(timeout=60)
             box = settings.wait_for_element(self.desk, program, "check box",
                                             "Launch Zephrine at login")
             self.assertNotIn("checked", box["states"])

@@ -4,13 +4,12 @@
 or light, whatever the applications look like; also when the panel comes back in another colour, or
 takes another one, while the program runs."""
 import os
-import time
 import unittest
 
 import heavy_hosts
 import hosts
 import panel_colours
-from desktop import wait_until
+from desktop import stays, wait_until
 from program import DesktopTestCase, changed_box, start
 
 NAME = os.environ["ZEPHRINE_HOST"]
@@ -45,7 +44,6 @@ def watch_the_text(desktop, make_panel):
     for dark in (*PANEL.kinds, PANEL.kinds[0]):
         make_panel(dark)
         if dark not in empty:
-            time.sleep(1)  # it answers before it has drawn itself
             empty[dark] = desktop.settled_picture(HOST.area)
         if len(empty) == len(PANEL.kinds):
             program = program or start(desktop)
@@ -53,10 +51,14 @@ def watch_the_text(desktop, make_panel):
 
 
 def wait_for_text(desktop, empty, is_light):
+    def is_right():
+        return stands_out(desktop.picture(HOST.area), empty, is_light)
+
+    what = f"{'light' if is_light else 'dark'} text on the panel"
+    wait_until(is_right, 10, what)
     if PANEL.is_always_dark:
-        time.sleep(4)  # the text that was there is right already: for the program to look again
-    wait_until(lambda: stands_out(desktop.picture(HOST.area), empty, is_light), 10,
-               f"{'light' if is_light else 'dark'} text on the panel")
+        # The text that was there was right already, and stays so when the program looks again.
+        stays(is_right, 4, what)
 
 
 def stands_out(picture, empty, is_light):

@@ -43,7 +43,7 @@ class ProcessList(DesktopTestCase):
             deadline = time.monotonic() + 2.5 * CAPTURE_INTERVAL
             while time.monotonic() < deadline:
                 clock.note()
-                time.sleep(0.02)
+                time.sleep(0.02)  # between two samples of the measurement
             rows = wait_until(lambda: row_of(burner, now := read()) and now, 20,
                               "the busy process still in the list")
             clock.note()

@@ -10,54 +10,42 @@ import unittest
 import hosts
 import settings
 from desktop import wait_until
+from figures import Figures, is_seen_at_once
 from monitors import split_screen
+from namespaces import NOBODY_MAY_MOUNT, may_mount
+from pictures import Look
 from program import PROGRAM, DesktopTestCase, changed_box, click, dashboard, strip
-from reading import figures, with_margin
+from shown import shown_item, shown_percent
 from strips import drag, middle, wait_for_strip
 
 WIDTH, HEIGHT = 1400, 1500  # of the screen, which has room for a dashboard of twice the size
-SCALES = (1, 1.25, 1.5, 2)
 # How the panels are told of the scale, and the program is in any case. Those of GTK know whole
 # numbers only, and the strip needs no panel.
-SCALABLE = {"none": (None, SCALES), "lxqt": ("QT_SCALE_FACTOR", SCALES),
-            "xfce": ("GDK_SCALE", (1, 2)), "mate": ("GDK_SCALE", (1, 2))}
+VARIABLES = {"none": None, "lxqt": "QT_SCALE_FACTOR", "xfce": "GDK_SCALE", "mate": "GDK_SCALE"}
 SHORT = {"none": (1.25,), "lxqt": (1.5,), "xfce": (2,)}
-# What was seen of text that was drawn at its size, 0.85 and more, and of text made larger by a
-# quarter or by half, 0.78 and less. MATE gives items two pixels less than the panel has.
-SHARP = {"none": 0.82, "lxqt": 0.82, "xfce": 0.82, "mate": 0.7}
-# Likewise of text made larger by a quarter, pixel for pixel; else no two rows are the same.
-REPETITIVE = 0.1
+TWO_SCREENS = {"QT_SCREEN_SCALE_FACTORS": "monitor-0=1;monitor-1=2"}
 
 
 class Scales(DesktopTestCase):
     def test_the_item_is_sharp_and_the_dashboard_beside_it(self):
         chosen = os.environ.get("ZEPHRINE_HOST")
-        for name, scales in {chosen: SCALABLE[chosen][1]}.items() if chosen else SHORT.items():
+        for name, scales in {chosen: hosts.LOOKS[chosen]}.items() if chosen else SHORT.items():
             for scale in scales:
                 with self.subTest(name, scale=scale), \
                         self.desktop(width=WIDTH, height=HEIGHT) as desktop:
                     self.try_scale(desktop, name, scale)
 
     def try_scale(self, desktop, name, scale):
-        variable, _ = SCALABLE[name]
-        if variable:
-            desktop.environment[variable] = str(scale)
+        if VARIABLES[name]:
+            desktop.environment[VARIABLES[name]] = str(scale)
         desktop.environment["QT_SCALE_FACTOR"] = str(scale)
         hosts.BY_NAME[name].start(desktop)
         empty = desktop.settled_picture()
         program = desktop.start(PROGRAM)
-
-        def legible_item():
-            box = changed_box(empty, desktop.picture())
-            return box if box and len(figures(desktop.picture(with_margin(box)), scale)) == 2 \
-                else None
-
-        box = wait_until(legible_item, 15, "an item that can be read")
-        left, top, right, bottom = box
-        self.assertGreater(bottom - top, 13 * scale)
-        text = desktop.picture(without_edge(box, scale) if name == "none" else box)
-        self.assertGreater(sharpness(text), SHARP[name])
-        self.assertLess(repetition(text), REPETITIVE)
+        look = hosts.LOOKS[name][scale]
+        left, top, right, bottom = wait_until(lambda: shown_item(desktop, empty, look), 15,
+                                              "the item as it is drawn at this scale").box
+        self.assertGreater(bottom - top, 20 * scale)
 
         click(desktop, ((left + right) // 2, (top + bottom) // 2))
         _, x, y, width, height = wait_until(lambda: dashboard(desktop, program), 5,
@@ -74,70 +62,45 @@ class Scales(DesktopTestCase):
             hosts.trayer(desktop, "--monitor", "1", "--height", "52")
             area = (WIDTH // 2, 0, WIDTH, 60)
             empty = desktop.settled_picture(area)
-            desktop.start(PROGRAM, environment={
-                "QT_SCREEN_SCALE_FACTORS": "monitor-0=1;monitor-1=2"})
+            desktop.start(PROGRAM, environment=TWO_SCREENS)
+            wait_until(lambda: shown_item(desktop, empty, Look(size=2, scale=2), area), 15,
+                       "an item of twice the size, and drawn at it")
 
-            def sharp_item():
-                picture = desktop.picture(area)
-                box = changed_box(empty, picture)
-                if not box or len(figures(picture.crop(with_margin(box)), 2)) != 2:
-                    return False
-                text = picture.crop(box)
-                return (text.width > 2 * 50 and sharpness(text) > SHARP["none"]
-                        and repetition(text) < REPETITIVE)
-
-            wait_until(sharp_item, 15, "an item that is sharp, and twice the size")
-
-    def test_the_strip_is_whole_and_sharp_on_a_screen_of_another_scale(self):
-        with self.desktop(width=WIDTH, height=HEIGHT) as desktop:
+    @unittest.skipUnless(may_mount(), NOBODY_MAY_MOUNT)
+    def test_the_strip_is_drawn_anew_at_once_on_a_screen_of_another_scale(self):
+        with self.desktop(width=WIDTH, height=HEIGHT) as desktop, \
+                Figures(desktop.folder) as figures:
             split_screen(desktop, (WIDTH // 2, WIDTH // 2), height=HEIGHT)
-            # So seldom that what is drawn at once is no refresh.
             settings.store(desktop, refreshInterval=5)
             empty = desktop.settled_picture()
-            program = desktop.start(PROGRAM, environment={
-                "QT_SCREEN_SCALE_FACTORS": "monitor-0=1;monitor-1=2"})
+            program = desktop.start(*figures.command(PROGRAM), environment=TWO_SCREENS)
             small = wait_for_strip(desktop, program)
-            wait_until(lambda: sharp_strip(desktop, empty, small, 1), 10, "the strip")
-            drag(desktop, middle(small), (WIDTH * 3 // 4, HEIGHT // 2))
-            large = wait_until(lambda: (now := strip(desktop, program)) and now[3] > small[3]
-                               and now, 10, "a larger strip")
-            self.assertEqual(large[3:], (2 * small[3], 2 * small[4]))
-            # It may be on its way still.
-            wait_until(lambda: (now := strip(desktop, program))
-                       and sharp_strip(desktop, empty, now, 2), 4, "all of the strip, sharp")
+            places = {1: middle(small), 2: (WIDTH * 3 // 4, HEIGHT // 2)}
+            size = 1
+
+            def shown():
+                # On both screens without hinting, since one of them has another scale than one.
+                frame = hosts.strip_look(size).frame
+                return shown_percent(shown_item(desktop, empty, Look(size=size, scale=2,
+                                                                     frame=frame)))
+
+            def move_to_the_other_screen():
+                nonlocal size
+                size = 3 - size
+                drag(desktop, program, middle(wait_for_strip(desktop, program)), places[size])
+                wait_until(lambda: (now := strip(desktop, program))
+                           and now[3:] == (size * small[3], size * small[4]), 10, "its new size")
+                # It may be on its way still.
+                return wait_until(shown, 10, "all of the strip, as it is drawn at this scale")
+
+            self.assertTrue(is_seen_at_once(figures, shown, move_to_the_other_screen))
+            wait_until(lambda: changed_box(empty, desktop.picture())
+                       == box_of(strip(desktop, program)), 10, "all of the strip's shape")
 
 
-def sharp_strip(desktop, empty, window, scale):
+def box_of(window):
     _, x, y, width, height = window
-    box = (x, y, x + width, y + height)
-    text = desktop.picture(without_edge(box, scale))
-    return (changed_box(empty, desktop.picture()) == box and sharpness(text) > SHARP["none"]
-            and repetition(text) < REPETITIVE)
-
-
-def without_edge(box, scale):
-    """The part of the strip that has nothing but text."""
-    across, down = math.ceil(6 * scale), math.ceil(3 * scale)
-    return box[0] + across, box[1] + down, box[2] - across, box[3] - down
-
-
-def sharpness(picture):
-    """How steep the steepest steps from one pixel to the next one in its row are, in parts of the
-    picture's contrast; a few of them may be due to chance."""
-    grey = picture.convert("L")
-    pixels, (darkest, brightest) = grey.load(), grey.getextrema()
-    steps = sorted(abs(pixels[x, y] - pixels[x + 1, y])
-                   for y in range(grey.height) for x in range(grey.width - 1))
-    return steps[-6] / (brightest - darkest)
-
-
-def repetition(picture):
-    """How many of the rows with text are just like the one above, in parts of one."""
-    grey = picture.convert("L")
-    rows = [grey.crop((0, y, grey.width, y + 1)).tobytes() for y in range(grey.height)]
-    blank = max(set(rows), key=rows.count)
-    pairs = [(one, other) for one, other in zip(rows, rows[1:]) if other != blank]
-    return sum(one == other for one, other in pairs) / len(pairs)
+    return x, y, x + width, y + height
 
 
 if __name__ == "__main__":

@@ -20,7 +20,7 @@ INSPECTION = "Zephrine Dashboard"
 
 def start_again(desktop, *options, **environment):
     """Starts the program once more, and returns its exit status when it ends by itself."""
-    return desktop.start(PROGRAM, *options, environment=environment).wait(timeout=20)
+    return desktop.start(PROGRAM, *options, environment=environment).wait(timeout=60)
 
 
 def wait_for_strip(desktop, process):
@@ -89,7 +89,7 @@ class SingleInstance(DesktopTestCase):
         with self.running() as (desktop, first):
             for number in (signal.SIGKILL, signal.SIGTERM):
                 first.send_signal(number)
-                first.wait(timeout=5)
+                first.wait(timeout=60)
                 first = start(desktop)
                 wait_for_strip(desktop, first)
                 self.assertEqual(start_again(desktop), 0)

@@ -8,7 +8,8 @@ import unittest
 import hosts
 from desktop import wait_until
 from program import DesktopTestCase, dashboard, start, strip
-from strips import covers, drag, film, is_seen, middle, wait_for_strip, wait_for_strip_at
+from strips import (covers, drag, film, is_seen, middle, wait_for_other_figures, wait_for_strip,
+                    wait_for_strip_at)
 
 
 class Strip(DesktopTestCase):
@@ -51,23 +52,24 @@ class Strip(DesktopTestCase):
             program = start(desktop)
             before = wait_for_strip(desktop, program)
             x, y = middle(before)
-            drag(desktop, (x, y), (x - 300, y + 200))
+            drag(desktop, program, (x, y), (x - 300, y + 200))
             moved = wait_for_strip_at(desktop, program, before[1] - 300, before[2] + 200)
             self.assertIsNone(dashboard(desktop, program), "a drag is not a click")
 
             program.send_signal(signal.SIGTERM)
-            self.assertEqual(program.wait(timeout=5), 0)
+            self.assertEqual(program.wait(timeout=60), 0)
             again = start(desktop)
             wait_until(lambda: (now := strip(desktop, again)) and now[1:] == moved[1:], 10,
                        "the strip where it was left")
 
     def test_it_is_hidden_behind_a_window_over_the_whole_screen(self):
         with self.desktop() as desktop:
-            window = wait_for_strip(desktop, start(desktop))
+            program = start(desktop)
+            window = wait_for_strip(desktop, program)
             wait_until(lambda: is_seen(desktop, window), 10, "the strip's picture")
             with film(desktop):
                 wait_until(lambda: covers(desktop, window), 10, "nothing but the film")
-                time.sleep(3)  # so that the figures change
+                wait_for_other_figures(desktop, program)
                 self.assertTrue(covers(desktop, window))
             wait_until(lambda: is_seen(desktop, window), 10, "the strip's picture after the film")
 
@@ -79,11 +81,12 @@ class Strip(DesktopTestCase):
                     wait_for_strip(desktop, program)
                     panel = hosts.BY_NAME[name].start(desktop)
                     wait_until(lambda: not strip(desktop, program), 10, "the strip's end")
+                    asked_at = time.monotonic()
                     panel.kill()
-                    gone_at = time.monotonic()
                     wait_for_strip(desktop, program)
-                    # Not before, since a panel that crashes is mostly started again.
-                    self.assertGreater(time.monotonic() - gone_at, 2.5)
+                    # Not before, since a panel that crashes is mostly started again. A busy machine
+                    # can only make it later, and Qt's timers are up to 5 % early.
+                    self.assertGreater(time.monotonic() - asked_at, 2.8)
 
 
 if __name__ == "__main__":

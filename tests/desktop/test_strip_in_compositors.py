@@ -3,14 +3,14 @@
 """The strip in the session that the environment variable ZEPHRINE_HOST names, without a panel that
 shows status items: in GNOME without its extension, as most are, and in sway without a bar."""
 import os
-import time
 import unittest
 
 import heavy_hosts
 import sway_hosts
 from desktop import wait_until
 from program import DesktopTestCase, click, dashboard, press_keys, start, strip
-from strips import covers, drag, film, is_seen, middle, wait_for_strip
+from strips import (covers, drag, film, is_seen, middle, wait_for_other_figures,
+                    wait_for_strip)
 
 
 def gnome(desktop):
@@ -43,13 +43,13 @@ class StripInCompositors(DesktopTestCase):
             with self.subTest("hidden behind a window over the whole screen"):
                 with film(desktop):
                     wait_until(lambda: covers(desktop, window), 10, "nothing but the film")
-                    time.sleep(3)  # so that the figures change
+                    wait_for_other_figures(desktop, program)
                     self.assertTrue(covers(desktop, window))
                 wait_until(lambda: is_seen(desktop, window), 10, "the strip after the film")
 
             with self.subTest("dragged to another place"):
                 x, y = middle(window)
-                drag(desktop, (x, y), (x - 300, y + 200))
+                drag(desktop, program, (x, y), (x - 300, y + 200))
                 place = (window[1] - 300, window[2] + 200)
                 wait_until(lambda: (now := strip(desktop, program)) and now[1:3] == place, 10,
                            "the other place")

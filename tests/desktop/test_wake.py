@@ -9,7 +9,7 @@ import hosts
 import mocks
 import settings
 from bus import Bus
-from desktop import wait_until
+from desktop import stays, wait_until
 from load import cpu_load, ticks
 from program import DesktopTestCase, start, wait_for_item, wait_for_text
 
@@ -29,8 +29,7 @@ class Wake(DesktopTestCase):
                 wait_until(lambda: item.text() and int(item.text()[1]) > 97, 30, "a full load")
 
             logind.prepare_for_sleep(True)
-            time.sleep(SETTLE)
-            self.assertTrue(item.text(), "nothing happens before the sleep")
+            stays(item.text, SETTLE, "a figure, since nothing happens before the sleep")
 
             logind.prepare_for_sleep(False)
             wait_until(lambda: item.text() is None, 4, "a text without a processor figure")
@@ -72,10 +71,7 @@ class Wake(DesktopTestCase):
             with mocks.Mock(desktop, desktop.environment["DBUS_SYSTEM_BUS_ADDRESS"], "system",
                             ("org.example.stranger", *mocks.LOGIND[1:])) as stranger:
                 stranger.emit("PrepareForSleep", "b", ("b", False))
-                end = time.monotonic() + SETTLE
-                while time.monotonic() < end:
-                    self.assertTrue(item.text())
-                    time.sleep(0.02)
+                stays(item.text, SETTLE, "a figure")
 
 
 if __name__ == "__main__":

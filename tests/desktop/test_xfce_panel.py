@@ -100,7 +100,7 @@ class XfcePanel(DesktopTestCase):
             first = start(desktop)
             wait_for_item(bus, first)
             self.assertIsNone(dashboard(desktop, first))
-            self.assertEqual(start(desktop).wait(timeout=10), 0)
+            self.assertEqual(start(desktop).wait(timeout=60), 0)
             wait_until(lambda: dashboard(desktop, first), 5, "the dashboard")
 
 
