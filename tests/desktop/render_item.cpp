@@ -21,8 +21,7 @@
 
 #include "platform/qt/drawing/QtTextMeasure.h"
 #include "platform/qt/drawing/RenderImage.h"
-#include "platform/qt/statusitem/forms/LineForm.h"
-#include "platform/qt/statusitem/forms/WideForm.h"
+#include "platform/qt/statusitem/forms/Forms.h"
 #include "sampling/MemoryPressure.h"
 #include "statusitem/SquareImage.h"
 #include "statusitem/StatusImage.h"
@@ -51,14 +50,20 @@ NotifierPixmaps picture(const std::vector<std::string>& fields) {
                                 .dot = color(pressure.value()),
                                 .isDark = isDark};
     const QtTextMeasure measure;
-    const Appearance appearance = isDark ? Appearance::darkAqua : Appearance::aqua;
-    if (form == "square") {
-        NotifierPixmaps pixmaps;
-        addPixmap(pixmaps, renderImage(squareImage(content, size, measure), 1, appearance));
-        return pixmaps;
+    const StatusItemImage image{
+        .wide = statusImage(content, measure),
+        .line = [&] { return lineImage(content, measure); },
+        .appearance = isDark ? Appearance::darkAqua : Appearance::aqua,
+    };
+    if (form == "line") {
+        PictureFiles nowhere{QString()};
+        return faceForHost(HostForm::line, image, nowhere).pixmaps;
     }
-    const StatusItemImage image{.wide = statusImage(content, measure)};
-    return form == "line" ? linePixmaps(image, appearance) : widePixmaps(image, size, appearance);
+    NotifierPixmaps pixmaps;
+    addPixmap(pixmaps, form == "square"
+                           ? renderImage(squareImage(content, size, measure), 1, image.appearance)
+                           : renderImage(image.wide, size, image.appearance));
+    return pixmaps;
 }
 
 std::vector<std::string> split(const std::string& line) {
