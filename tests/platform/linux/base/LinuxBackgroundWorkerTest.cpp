@@ -116,11 +116,11 @@ TEST_F(LinuxBackgroundWorkerTest, HearsNothingOfAJobThatGoesOnAfterItWasGivenUp)
 }
 
 TEST_F(LinuxBackgroundWorkerTest, LeavesAJobAloneThatTakesLongButWorks) {
-    constexpr double kMorePatience = 0.5;  // a thread of low priority does not run all the time
+    static constexpr Seconds kMorePatience{
+        0.5};  // a thread of low priority does not run all the time
     worker = std::make_unique<LinuxBackgroundWorker>(loop, kMorePatience);
     perform("works", [] {
-        const auto end =
-            std::chrono::steady_clock::now() + std::chrono::duration<double>(4 * kMorePatience);
+        const auto end = std::chrono::steady_clock::now() + 4 * kMorePatience;
         while (std::chrono::steady_clock::now() < end) {
         }
     });

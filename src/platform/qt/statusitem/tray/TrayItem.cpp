@@ -142,7 +142,7 @@ void TrayItem::dockWith(xcb_window_t manager) {
         TrayWindow::Handlers{.placed = [this] { placed(); },
                              // It is in the middle of one of its own operations.
                              .lost =
-                                 [this, docking = ++docking_] {
+                                 [this, docking = docking_] {
                                      QMetaObject::invokeMethod(
                                          this, [this, docking] { lost(docking); },
                                          Qt::QueuedConnection);
@@ -177,6 +177,7 @@ void TrayItem::leaveTray() {
     hovered(false);
     manager_ = XCB_WINDOW_NONE;
     window_.reset();
+    ++docking_;
     setState(TrayReport::State::none);
 }
 

@@ -66,9 +66,10 @@ private:
     xcb_window_t manager_ = XCB_WINDOW_NONE;
     std::optional<TrayHints> hints_;  ///< the manager's
     std::unique_ptr<TrayWindow> window_;
-    unsigned docking_ = 0;  ///< the number of the window
-    double density_ = 1;    ///< device pixels per point on the screen of the tray
-    QTimer rest_;           ///< of the pointer, until the tip is shown
+    unsigned docking_ =
+        0;                ///< the number of the window, which tells its news from those of another
+    double density_ = 1;  ///< device pixels per point on the screen of the tray
+    QTimer rest_;         ///< of the pointer, until the tip is shown
     QString toolTip_;
     double length_ = 0;
     StatusItemImage image_;
