@@ -57,8 +57,9 @@ def wait_for_text(desktop, empty, is_light):
     what = f"{'light' if is_light else 'dark'} text on the panel"
     wait_until(is_right, 10, what)
     if PANEL.is_always_dark:
-        # The text that was there was right already, and stays so when the program looks again.
-        stays(is_right, 4, what)
+        # The text that was there was right already, and stays so when the program looks again; but
+        # while the panel loads other figures, there is none for a moment.
+        stays(lambda: wait_until(is_right, 10, what), 4, what)
 
 
 def stands_out(picture, empty, is_light):
