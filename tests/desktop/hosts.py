@@ -223,8 +223,8 @@ TOP = (0, 0, 1000, 32)
 
 # At each scale of the screen that the panel can be told of.
 LOOKS = {
-    # Xfce leaves windows as wide as they are, but no higher than 22 points: 62 of the 68 are left.
-    "xfce": {scale: Look(size=scale * 62 / 68, scale=scale) for scale in (1, 2)},
+    # Xfce makes windows no higher than 22 points, of the picture's 24.
+    "xfce": {scale: Look(size=scale * 22 / 24, scale=scale) for scale in (1, 2)},
     "lxqt": {scale: Look("square", side, scale=scale)
              for scale, side in {1: 22, 1.25: 28, 1.5: 33, 2: 44}.items()},
     "mate": {scale: Look(size=2, scale=scale, height=25 * scale) for scale in (1, 2)},
