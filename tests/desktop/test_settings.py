@@ -59,9 +59,8 @@ class SettingsTestCase(DesktopTestCase):
         wait_until(lambda: not settings.window(self.desk, self.program), 10, "its end")
         # Until the window manager has given the keyboard to another window, or to none: it would
         # take it from a dashboard that opens meanwhile, which then closes.
-        active = hex(int(window))
-        wait_until(lambda: active not in self.desk.run("xprop", "-root", "_NET_ACTIVE_WINDOW"), 10,
-                   "another active window")
+        wait_until(lambda: self.desk.run("xdotool", "getwindowfocus").strip() != window, 10,
+                   "the keyboard elsewhere")
 
     def choose(self, row, item):
         settings.choose(self.desk, self.program, row, item)
