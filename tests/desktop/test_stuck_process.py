@@ -49,9 +49,9 @@ class StuckProcess(DesktopTestCase):
         with self.captured() as (desktop, program, process):
             def row():
                 dashboard = accessibility.dashboard(desktop, program)
-                return next((name for name, value in accessibility.rows(dashboard)
-                             if name["description"].endswith(f" · PID {process.pid}")
-                             and value["name"].endswith("%")), None)
+                return dashboard and next((name for name, value in accessibility.rows(dashboard)
+                                           if name["description"].endswith(f" · PID {process.pid}")
+                                           and value["name"].endswith("%")), None)
 
             self.assertEqual(wait_until(row, 30, "the process with a share")["name"],
                              NAME.decode())
