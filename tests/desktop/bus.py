@@ -27,7 +27,7 @@ class Bus:
     def call(self, message):
         """The body of the answer; None when the answer is an error."""
         try:
-            return unwrap_msg(self._connection.send_and_get_reply(message, timeout=10))
+            return unwrap_msg(self._connection.send_and_get_reply(message, timeout=60))
         except DBusErrorResponse:
             return None
 
