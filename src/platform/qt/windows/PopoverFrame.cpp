@@ -57,8 +57,8 @@ PopoverFrame::PopoverFrame(const SystemAppearance& appearance, Handlers handlers
       appearance_(appearance),
       handlers_(std::move(handlers)),
       content_(this) {
-    setWindowTitle(QStringLiteral("Zephrine"));
     setAccessibleRole(*this, QAccessible::Dialog);
+    setWindowTitle(QStringLiteral("Zephrine"));
     fade_.setDuration(fadeTime);
     fade_.setStartValue(0.0);
     fade_.setEndValue(1.0);

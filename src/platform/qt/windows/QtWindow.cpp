@@ -43,8 +43,8 @@ QtWindow::QtWindow(const std::string& title, Size contentSize)
     : surface_(std::make_unique<Surface>()) {
     const QSize size(static_cast<int>(std::lround(contentSize.width)),
                      static_cast<int>(std::lround(contentSize.height)));
-    surface_->setWindowTitle(fromUTF8(title));
     setAccessibleRole(*surface_, QAccessible::Window);
+    surface_->setWindowTitle(fromUTF8(title));
     surface_->setFixedSize(size);
     surface_->content.resize(size);
 }
