@@ -4,7 +4,7 @@
 // behind, which the next one clears away; a lock on it tells a leftover from another's work.
 //
 // GLib's g_file_set_contents_full would replace a symbolic link in place of the file that it leads
-// to, leave a file behind for each writer that is killed, under ever new names, and make no folders.
+// to, leave a file of a new name behind for each writer that is killed, and make no folders.
 #include "platform/linux/base/FileReplacement.h"
 
 #include <fcntl.h>

@@ -11,6 +11,7 @@ namespace {
 
 constexpr const char* kGroup = "Desktop Entry";
 
+using OwnedError = std::unique_ptr<GError, decltype(&g_error_free)>;
 using OwnedString = std::unique_ptr<char, decltype(&g_free)>;
 using OwnedStrings = std::unique_ptr<char*, decltype(&g_strfreev)>;
 
@@ -39,16 +40,18 @@ std::optional<DesktopEntry> DesktopEntry::parse(std::string_view text) {
 }
 
 std::optional<std::string> DesktopEntry::string(const char* key) const {
-    const OwnedString value(g_key_file_get_string(file_.get(), kGroup, key, nullptr), g_free);
-    return value ? std::optional<std::string>(value.get()) : std::nullopt;
+    GError* error = nullptr;
+    const OwnedString value(g_key_file_get_string(file_.get(), kGroup, key, &error), g_free);
+    const OwnedError failure(error, g_error_free);
+    // Up to version 2.74 at least, some errors come with a string.
+    return failure ? std::nullopt : std::optional<std::string>(value.get());
 }
 
 std::optional<bool> DesktopEntry::boolean(const char* key) const {
     GError* error = nullptr;
     const bool value = g_key_file_get_boolean(file_.get(), kGroup, key, &error) != FALSE;
-    const std::optional<bool> result = error == nullptr ? std::optional(value) : std::nullopt;
-    g_clear_error(&error);
-    return result;
+    const OwnedError failure(error, g_error_free);
+    return failure ? std::nullopt : std::optional(value);
 }
 
 std::optional<std::vector<std::string>> DesktopEntry::list(const char* key) const {

@@ -20,8 +20,8 @@ public:
     /// Absent when the text is malformed: desktops then ignore the whole file.
     static std::optional<DesktopEntry> parse(std::string_view text);
 
-    /// The value with its escapes (\s \n \t \r \\) resolved, any other left as it is; absent
-    /// without the key or when it is not UTF-8.
+    /// The value with its escapes (\s \n \t \r \\) resolved; absent without the key, when it holds
+    /// any other escape, or when it is not UTF-8.
     [[nodiscard]] std::optional<std::string> string(const char* key) const;
     /// Absent without the key or when it is neither "true" nor "false" ("1" and "0" of old).
     [[nodiscard]] std::optional<bool> boolean(const char* key) const;

@@ -45,7 +45,7 @@ TEST(AutostartStatus, IsNotFooledByOtherKeysThatAreFalse) {
 TEST(AutostartStatus, IsNotFoundWithoutAProgramThatCanBeRun) {
     for (const char* const lines :
          {"", "Exec=", "Exec=other", "Exec=\"zephrine", "Exec=zephrine\nTryExec=other",
-          "Exec=zephrine\nType=Link", "Exec=zephrine 'x"}) {
+          "Exec=zephrine\nType=Link", "Exec=zephrine 'x", "Exec=zep\\hrine"}) {
         EXPECT_EQ(status(lines), LoginItemStatus::notFound) << lines;
     }
 }
