@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/linux/FakeTree.h"
+#include "platform/linux/Captured.h"
 #include "platform/linux/login/DesktopExec.h"
 
 namespace zephrine {

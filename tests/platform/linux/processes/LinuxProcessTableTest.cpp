@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "platform/linux/AllocationCount.h"
+#include "platform/linux/Captured.h"
 #include "platform/linux/PretendedSleep.h"
 #include "platform/linux/processes/ProcessTableFixture.h"
-#include "platform/linux/Captured.h"
 
 namespace zephrine {
 namespace {

@@ -18,7 +18,8 @@ public:
     static bool isInstalled() { return !QStandardPaths::findExecutable("Xvfb").isEmpty(); }
 
     PrivateXServer() {
-        server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "300x200x24", "-nolisten", "tcp"});
+        server_.start("Xvfb",
+                      {"-displayfd", "1", "-screen", "0", "300x200x24", "-nolisten", "tcp"});
         if (!server_.waitForReadyRead()) {
             throw std::runtime_error("Xvfb does not start");
         }

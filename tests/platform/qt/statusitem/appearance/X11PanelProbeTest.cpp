@@ -110,8 +110,8 @@ TEST_F(PanelOnX11, IsAbsentWhileItIsHiddenAndWhenItIsGone) {
 TEST_F(PanelOnX11, IsSeenBesideTheWorkAreaWhereTheDesktopDrawsIt) {
     const auto [name] = internAtoms<1>(connection, {"_GTK_WORKAREAS_D0"});
     const std::array<std::uint32_t, 4> workArea{0, 0, 300, 160};
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, server->screen().root, name, XCB_ATOM_CARDINAL,
-                        32, workArea.size(), workArea.data());
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, server->screen().root, name,
+                        XCB_ATOM_CARDINAL, 32, workArea.size(), workArea.data());
     paint(server->screen().root, kLight);
     EXPECT_EQ(probe->look(1000), Appearance::aqua);
     paint(server->screen().root, kDark);
