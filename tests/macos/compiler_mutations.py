@@ -198,14 +198,11 @@ COMPILER = [
         because="an rvalue of type 'bool (^)(NSRect)'",
     ),
     Mutation(
-        what="the system's macro `require` let in",
+        what="a guard named like the system's macro `require`",
         check="arm64",
         source="widgets/MacView.mm",
-        old='#include "platform/macos/widgets/MacView.h"',
-        new=(
-            "#undef __ASSERT_MACROS_DEFINE_VERSIONS_WITHOUT_UNDERSCORES\n"
-            '#include "platform/macos/widgets/MacView.h"'
-        ),
+        old="trapUnless(",
+        new="require(",
         because="provided to function-like macro",
     ),
 ]

@@ -22,14 +22,14 @@ protected:
         ASSERT_EQ(shown.size(), table.size());
     }
 
-    /// Calls `check` with each label and its row of the table.
-    template <typename Check>
-    void forEachLabel(Check check) {
+    /// Calls `compare` with each label and its row of the table.
+    template <typename Compare>
+    void forEachLabel(Compare compare) {
         int labels = 0;
         for (std::size_t i = 0; i < table.size(); ++i) {
             if (NSTextField* label = as<NSTextField>(shown[i])) {
                 SCOPED_TRACE("element " + std::to_string(i + 1) + " " + table[i].text);
-                check(label, table[i]);
+                compare(label, table[i]);
                 ++labels;
             }
         }
