@@ -59,7 +59,7 @@ TEST_F(ProcessRefreshTest, StartingAgainDropsTheBaselineRefreshesAndReplacesTheT
     finishCapture();
     calls().clear();
     controller->openInspectionWindow();
-    EXPECT_FALSE(controller->previousProcesses.has_value());
+    EXPECT_FALSE(controller->processRefresh->previousProcesses.has_value());
     EXPECT_TRUE(calls().inOrder({"perform", "invalidate", "scheduleTimer"}));
 }
 
